@@ -1,0 +1,51 @@
+# The language, the warnings and the sanitizers that every target shares.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+add_compile_definitions(
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+    QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+# hv_strict carries the warnings of the plain libraries. Code that Qt generates for QML modules
+# trips -Wshadow and -Wconversion, so those modules link hv_warnings only.
+add_library(hv_warnings INTERFACE)
+add_library(hv_strict INTERFACE)
+if(MSVC)
+    target_compile_options(hv_warnings INTERFACE /W4)
+    if(HV_WARNINGS_AS_ERRORS)
+        target_compile_options(hv_warnings INTERFACE /WX)
+    endif()
+else()
+    # Records are filled by named field; the fields left out have their defaults on purpose.
+    target_compile_options(hv_warnings INTERFACE
+        -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Wno-missing-field-initializers)
+    target_compile_options(hv_strict INTERFACE -Wshadow -Wconversion -Wno-sign-conversion)
+    if(HV_WARNINGS_AS_ERRORS)
+        target_compile_options(hv_warnings INTERFACE -Werror)
+    endif()
+endif()
+target_link_libraries(hv_strict INTERFACE hv_warnings)
+
+# The program alone is worth optimising as a whole. Objects keep their ordinary code beside the
+# intermediate one, so that the many test programs link at once (see hv_plain_link).
+if(CMAKE_INTERPROCEDURAL_OPTIMIZATION AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options(-ffat-lto-objects)
+    # g++ 12 warns of a growth of QHash beyond memory that it derives while linking.
+    add_link_options(-Wno-alloc-size-larger-than)
+endif()
+
+function(hv_plain_link target)
+    set_target_properties(${target} PROPERTIES INTERPROCEDURAL_OPTIMIZATION OFF)
+    if(CMAKE_INTERPROCEDURAL_OPTIMIZATION AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        target_link_options(${target} PRIVATE -fno-lto)
+    endif()
+endfunction()
+
+if(HV_SANITIZE)
+    add_compile_options(-fsanitize=${HV_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${HV_SANITIZE})
+endif()
