@@ -1,0 +1,67 @@
+#include "shell/info.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace {
+
+// An environment variable that is set but empty counts as not set.
+QString environmentPath(const char *name)
+{
+    const QString path = qEnvironmentVariable(name);
+    return path.isEmpty() ? QString() : QDir::cleanPath(QDir::current().absoluteFilePath(path));
+}
+
+} // namespace
+
+namespace HVInfo {
+
+QUrl website()
+{
+    const QUrl url(QStringLiteral("https://corvane.example"), QUrl::StrictMode);
+    Q_ASSERT(url.isValid());
+    return url;
+}
+
+QString version()
+{
+    return QStringLiteral(HV_VERSION);
+}
+
+QString dataFolder()
+{
+    const QString base = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    if (base.isEmpty())
+        qFatal("This platform names no folder for application data.");
+
+    const QString folder = base + QStringLiteral("/CRVN Halvorin");
+    // What the user writes is nobody else's business, whatever the umask says.
+    if (QDir().mkpath(folder))
+        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return folder;
+}
+
+QUrl databaseURL()
+{
+    const QString path = environmentPath("HV_DB_PATH");
+    return QUrl::fromLocalFile(
+        path.isEmpty() ? dataFolder() + QStringLiteral("/My Progress.sqlite") : path);
+}
+
+QString contentFolder()
+{
+    const QString path = environmentPath("HV_CONTENT");
+    if (!path.isEmpty())
+        return path;
+
+    const QDir executable(QCoreApplication::applicationDirPath());
+    const QString beside = executable.filePath(QStringLiteral("content"));
+    if (QFileInfo(beside).isDir())
+        return beside;
+    return QDir::cleanPath(executable.filePath(QStringLiteral("../share/crvn-halvorin/content")));
+}
+
+} // namespace HVInfo
