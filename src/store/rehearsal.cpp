@@ -1,0 +1,210 @@
+#include "store/rehearsal.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <sqlite3.h>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The file itself and the two companions that hold changes to it: a database makes sense only
+// together with these. The third companion, "-shm", is an index that SQLite makes anew.
+const QString kFile = u""_s;
+const QString kWal = u"-wal"_s;
+const QString kJournal = u"-journal"_s;
+const QString kIndex = u"-shm"_s;
+const QStringList kContents{ kFile, kWal, kJournal };
+
+// Many times what a lifetime of notes takes. Copying more than this would fill the disk, or the
+// memory behind it, for a file that is hardly ours.
+constexpr qint64 kLargestCopy = 256 * 1024 * 1024;
+
+// A file too short for the header of a database is none. SQLite says so as well, except that it
+// takes a single byte for an empty file and writes over it.
+constexpr qint64 kHeaderSize = 100;
+
+HVError refusal(const QString &reason)
+{
+    return HVError(HVError::Kind::Database, reason);
+}
+
+bool hasContent(const QString &path)
+{
+    return QFileInfo(path).size() > 0;
+}
+
+// What stands in the file's place, or beside it under a companion's name, must be a regular file
+// that can be written to. SQLite would notice too late: it opens what it may only read, makes
+// companions for it and fails at the first write; it switches a file to WAL and then finds that the
+// "-wal" can't be opened; and it takes a device for an empty database.
+void requireWritableFiles(const QString &path)
+{
+    for (const QString &suffix : { kFile, kWal, kJournal, kIndex }) {
+        const QFileInfo info(path + suffix);
+        if (!info.exists())
+            continue;
+        if (!info.isFile()) // asked first, for the opening of a pipe would wait for its other end
+            throw refusal(info.fileName() + u" is not a regular file"_s);
+
+        QFile file(info.filePath());
+        const bool opens = file.open(QIODevice::ReadWrite | QIODevice::ExistingOnly);
+        // A companion goes when another process closes the file, which is no obstacle.
+        if (!opens && QFileInfo::exists(info.filePath()))
+            throw refusal(info.fileName() + u": "_s + file.errorString());
+    }
+}
+
+// What tells one state of a file from the next.
+struct Stamp {
+    qint64 size;
+    QDateTime modified;
+
+    friend bool operator==(const Stamp &, const Stamp &) = default;
+};
+
+QList<Stamp> stamps(const QString &path)
+{
+    QList<Stamp> stamps;
+    for (const QString &suffix : kContents) {
+        const QFileInfo info(path + suffix);
+        stamps.append({ .size = info.size(), .modified = info.lastModified() });
+    }
+    return stamps;
+}
+
+// Trouble with the place of a rehearsal, such as no room, and not with what is rehearsed.
+bool isTroubleOfPlace(const HVError &error)
+{
+    const int code = error.sqliteCode();
+    return code == SQLITE_CANTOPEN || code == SQLITE_FULL || code == SQLITE_IOERR;
+}
+
+// Not QFile::copy(): the copy must not take over rights that keep us from writing to it.
+void copyFile(const QString &from, const QString &to)
+{
+    constexpr qint64 pieceSize = 1024 * 1024;
+
+    QFile source(from);
+    if (!source.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        throw refusal(source.errorString());
+    QFile target(to);
+    if (!target.open(QIODevice::NewOnly | QIODevice::WriteOnly | QIODevice::Unbuffered))
+        throw HVError(HVError::Kind::Database, target.errorString(), SQLITE_CANTOPEN);
+
+    for (;;) {
+        const QByteArray piece = source.read(pieceSize);
+        if (source.error() != QFile::NoError)
+            throw refusal(source.errorString());
+        if (piece.isEmpty())
+            return;
+        if (target.write(piece) != piece.size())
+            throw HVError(HVError::Kind::Database, target.errorString(), SQLITE_FULL);
+    }
+}
+
+void rehearseIn(const QString &place, const QString &path)
+{
+    const QTemporaryDir scratch(place + u"/halvorin-rehearsal-XXXXXX"_s); // its owner's alone
+    if (!scratch.isValid())
+        throw HVError(HVError::Kind::Database, scratch.errorString(), SQLITE_CANTOPEN);
+
+    const QString copy = scratch.filePath(u"rehearsal.sqlite"_s);
+    for (const QString &suffix : kContents) {
+        if (QFileInfo::exists(path + suffix))
+            copyFile(path + suffix, copy + suffix);
+    }
+    const UserStore store(QUrl::fromLocalFile(copy));
+}
+
+// What a look at the file can tell where no copy can be made: whether it has a table that the
+// opening would stumble over only after it has written, since that indexes two columns of notes and
+// adds a row of two to meta. It finds less than a rehearsal does, but a full disk is no reason to
+// keep users from their own file.
+void lookAtTables(const QString &path)
+{
+    bool clashes = false;
+    try {
+        const SQLiteDB file(path, SQLiteDB::Access::Immutable);
+        const QList<SQLRow> answer = file.query(uR"(
+            SELECT (SELECT COUNT(*) FROM pragma_table_info('notes')) > 0
+                   AND (SELECT COUNT(*) FROM pragma_table_info('notes')
+                        WHERE name IN ('target_type', 'target_id')) < 2
+                   OR (SELECT COUNT(*) FROM pragma_table_info('meta')) NOT IN (0, 2) AS clashes
+        )"_s);
+        clashes = answer.first().boolean(u"clashes"_s);
+    } catch (const HVError &) {
+        // Either the file is whole only together with the changes beside it, which the look leaves
+        // out, or it is damaged, and then the opening fails as it reads, before it writes.
+        return;
+    }
+    if (clashes)
+        throw refusal(u"the file belongs to another program"_s);
+}
+
+void rehearse(const QString &path)
+{
+    if (QFileInfo(path).size() < kHeaderSize)
+        throw refusal(u"file is not a database"_s);
+
+    qint64 size = 0;
+    for (const Stamp &stamp : stamps(path))
+        size += stamp.size;
+
+    if (size <= kLargestCopy) {
+        // Beside the file there is room whenever the file itself can grow.
+        for (const QString &place : { QDir::tempPath(), QFileInfo(path).absolutePath() }) {
+            if (place.isEmpty()) // the folder for temporary files is set to one that isn't there
+                continue;
+            try {
+                return rehearseIn(place, path);
+            } catch (const HVError &error) {
+                if (!isTroubleOfPlace(error))
+                    throw;
+            }
+        }
+    }
+    lookAtTables(path);
+}
+
+std::optional<HVError> objectionTo(const QString &path)
+{
+    try {
+        rehearse(path);
+        return std::nullopt;
+    } catch (const HVError &error) {
+        return error;
+    }
+}
+
+} // namespace
+
+std::unique_ptr<UserStore> openProgressFile(const QUrl &url)
+{
+    const QFileInfo info(url.toLocalFile());
+    // SQLite follows a link and has the companions beside the file that it leads to.
+    const QString path = info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
+    requireWritableFiles(path);
+
+    // In this order: a process that is just creating the file writes to it before it has a "-wal".
+    const bool hasWal = hasContent(path + kWal);
+    if (hasContent(path)) {
+        const QList<Stamp> before = stamps(path);
+        std::optional<HVError> objection = objectionTo(path);
+        // The copy of a file that another process is writing to may be torn. That process writes at
+        // the pace of a person, so the second copy is whole.
+        if (stamps(path) != before)
+            objection = objectionTo(path);
+        if (objection)
+            throw *objection;
+    } else if (hasWal) {
+        // SQLite deletes the changes that have lost their file. They may be all that is left of it.
+        throw refusal(u"the file is empty, but changes that belong to it are there"_s);
+    }
+    return std::make_unique<UserStore>(url);
+}
