@@ -1,0 +1,14 @@
+// Rounded rectangles whose corners are continuous: curvature rises from zero along the edge
+// instead of jumping, as on a body that was milled and not stamped.
+#pragma once
+
+#include <QPainterPath>
+#include <QRectF>
+
+/// The outline of `rect` with continuous corners of `radius`, in the units of `rect`.
+///
+/// Each corner is an arc flanked by two cubic curves and takes up to 1.6 · radius of each side.
+/// Where a side is too short for that the corner tends to a plain arc, so a radius of half the
+/// shorter side gives a capsule or a circle; a larger radius gives the same. An empty rectangle
+/// gives an empty path.
+[[nodiscard]] QPainterPath continuousPath(const QRectF &rect, double radius);

@@ -1,0 +1,45 @@
+// The two things that the program remembers beside the user's data: theme and zoom.
+//
+// One file, "CRVN Halvorin/CRVN Halvorin.conf" in the platform's configuration folder, INI form,
+// written through at each change. A mode that must leave no trace (snapshots, the self-test)
+// calls keepInMemory() first: from then on the file is neither read nor written, so a run that is
+// killed half-way leaves the user's choices as they were. Main thread only.
+#pragma once
+
+#include <QObject>
+#include <QVariantHash>
+
+class QSettings;
+
+class Preferences : public QObject
+{
+    Q_OBJECT
+public:
+    [[nodiscard]] static Preferences &shared();
+
+    /// Preferences kept in the file at `path`.
+    explicit Preferences(const QString &path);
+    ~Preferences() override;
+
+    [[nodiscard]] bool contains(const QString &key) const;
+    /// The stored text; empty if there is none.
+    [[nodiscard]] QString text(const QString &key) const;
+    /// The stored number; 0 if there is none, or if what is stored is no number.
+    [[nodiscard]] double number(const QString &key) const;
+
+    /// Stores a value. Setting what is there already writes and signals nothing.
+    void set(const QString &key, const QVariant &value);
+    void remove(const QString &key);
+
+    /// Lets go of the file: all values so far are forgotten, later ones live in this process only.
+    void keepInMemory();
+
+Q_SIGNALS:
+    void changed(const QString &key);
+
+private:
+    [[nodiscard]] QVariant value(const QString &key) const;
+
+    std::unique_ptr<QSettings> m_file; ///< Absent once keepInMemory() has been called.
+    QVariantHash m_memory;
+};

@@ -1,0 +1,52 @@
+import QtQuick
+import QtQuick.Templates as T
+import Halvorin.Kit
+
+/*! A menu. */
+T.Menu {
+    id: root
+
+    implicitWidth: Math.max(200, list.widest + leftPadding + rightPadding)
+    implicitHeight: list.contentHeight + topPadding + bottomPadding
+    margins: 4
+    padding: 5
+    overlap: 2
+    // The menu bar's mnemonics and Escape need the focus.
+    focus: true
+
+    delegate: CNMenuItem {}
+
+    contentItem: ListView {
+        id: list
+
+        readonly property real widest: {
+            let widest = 0;
+            for (let i = 0; i < root.count; ++i)
+                widest = Math.max(widest, root.itemAt(i)?.implicitWidth ?? 0);
+            return widest;
+        }
+
+        implicitHeight: contentHeight
+        model: root.contentModel
+        interactive: contentHeight > height
+        clip: true
+        currentIndex: root.currentIndex
+    }
+    background: Item {
+        SoftShadow {
+            anchors.fill: parent
+            anchors.topMargin: 4
+            radius: 10
+            blur: 14
+            color: CNUI.gray(0, 0.6)
+        }
+        ContinuousRectangle {
+            anchors.fill: parent
+            radius: 10
+            fillFrom: CNUI.theme.panelTop
+            fillTo: CNUI.theme.panelBottom
+            strokeWidth: 1
+            strokeFrom: CNUI.theme.rim
+        }
+    }
+}

@@ -1,0 +1,60 @@
+import QtQuick
+import QtQuick.Templates as T
+import Halvorin.Kit
+
+/*! A row of a menu, with a check mark if it is checkable and the key that does the same. */
+T.MenuItem {
+    id: root
+
+    readonly property string keys: CNUI.shortcutText(root.action?.shortcut ?? "")
+
+    implicitWidth: 26 + title.implicitWidth + (keyHint.text !== "" ? keyHint.implicitWidth + 32 : 16) + 14
+    implicitHeight: 26
+    Accessible.name: title.text
+
+    contentItem: Item {
+        Symbol {
+            x: 8
+            anchors.verticalCenter: parent.verticalCenter
+            visible: root.checkable && root.checked
+            name: "checkmark"
+            pointSize: 10
+            weight: Font.Bold
+            ink: root.highlighted ? "white" : CNUI.theme.text
+        }
+        HvText {
+            id: title
+            x: 26
+            anchors.verticalCenter: parent.verticalCenter
+            text: CNUI.withoutMnemonic(root.text)
+            decorative: true
+            font: CNUI.cnFont(12)
+            color: root.highlighted ? "white" : CNUI.theme.text
+        }
+        HvText {
+            id: keyHint
+            anchors.right: parent.right
+            anchors.rightMargin: 10
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.subMenu ? "" : root.keys
+            decorative: true
+            font: CNUI.cnFont(11)
+            color: root.highlighted ? "white" : CNUI.theme.dim
+        }
+    }
+    arrow: Symbol {
+        x: root.width - width - 8
+        anchors.verticalCenter: parent?.verticalCenter
+        visible: root.subMenu
+        name: "chevron.right"
+        pointSize: 9
+        weight: Font.Bold
+        ink: root.highlighted ? "white" : CNUI.theme.dim
+    }
+    indicator: null
+    background: Rectangle {
+        visible: root.highlighted
+        radius: 6
+        color: CNUI.theme.accent
+    }
+}

@@ -1,0 +1,5 @@
+import Halvorin.Kit
+
+/*! The kit's search field. */
+SearchCapsule {
+}

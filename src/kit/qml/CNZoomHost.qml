@@ -1,0 +1,39 @@
+import QtQuick
+import Halvorin.Kit
+
+/*! Shows its content magnified by the interface zoom: laid out in a smaller or larger logical
+    window, scrolled only where that window could not keep its minimum size. */
+Item {
+    id: root
+
+    property size minSize: Qt.size(960, 640)
+    default property alias content: stage.data
+
+    QtObject {
+        id: metrics
+        readonly property size offered: Qt.size(root.width, root.height)
+        readonly property size logical: CNZoom.logicalSize(metrics.offered, CNZoom.zoom, root.minSize)
+        readonly property bool scrolls: CNZoom.scrolls(metrics.offered, CNZoom.zoom, root.minSize)
+        readonly property real zoom: CNZoom.zoom
+        onOfferedChanged: CNZoom.scrollHome(surface)
+        onZoomChanged: CNZoom.scrollHome(surface)
+    }
+
+    Component.onCompleted: CNZoom.scrollHome(surface)
+
+    ScrollSurface {
+        id: surface
+        anchors.fill: parent
+        contentWidth: metrics.scrolls ? stage.width * metrics.zoom : root.width
+        contentHeight: metrics.scrolls ? stage.height * metrics.zoom : root.height
+
+        FocusScope {
+            id: stage
+            width: metrics.logical.width
+            height: metrics.logical.height
+            scale: metrics.zoom
+            transformOrigin: Item.TopLeft
+            focus: true
+        }
+    }
+}

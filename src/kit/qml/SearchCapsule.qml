@@ -1,0 +1,108 @@
+import QtQuick
+import QtQuick.Templates as T
+import Halvorin.Kit
+
+/*! A search field in a capsule: a glass, the text and, while there is text, a button that clears
+    it. The text belongs to the caller: it comes in as `text` and goes out with `edited`. */
+Item {
+    id: root
+
+    required property string prompt
+    required property string text
+    property real spacing: 6
+    property color ink: CNUI.theme.text
+    property color dimInk: CNUI.theme.dim
+    property color fill: CNUI.gray(0, 0.35)
+    property color rim: CNUI.theme.rim
+    readonly property alias editing: field.activeFocus
+
+    signal edited(string text)
+
+    function focusField(): void {
+        field.forceActiveFocus(Qt.ShortcutFocusReason);
+        field.selectAll();
+    }
+
+    onTextChanged: if (field.text !== root.text) field.text = root.text
+
+    implicitWidth: 220
+    implicitHeight: field.implicitHeight + 14
+
+    ContinuousRectangle {
+        anchors.fill: parent
+        radius: height / 2
+        fillFrom: root.fill
+        strokeWidth: field.activeFocus ? 1.6 : 1
+        strokeFrom: field.activeFocus ? root.ink : root.rim
+    }
+    Symbol {
+        id: glass
+        x: 12
+        anchors.verticalCenter: parent.verticalCenter
+        name: "magnifyingglass"
+        pointSize: 12
+        weight: Font.Medium
+        ink: root.dimInk
+    }
+    T.TextField {
+        id: field
+        anchors {
+            left: glass.right
+            leftMargin: root.spacing
+            right: parent.right
+            rightMargin: clear.visible ? clear.width + 12 : 12
+            verticalCenter: parent.verticalCenter
+        }
+        implicitHeight: Math.ceil(contentHeight)
+        padding: 0
+        clip: contentWidth > width
+        text: root.text
+        color: root.ink
+        selectionColor: CNUI.theme.accent
+        selectedTextColor: "white"
+        selectByMouse: true
+        verticalAlignment: TextInput.AlignVCenter
+        font: CNUI.cnFont(13, Font.Medium)
+        onTextEdited: root.edited(field.text)
+        Accessible.name: root.prompt
+        Keys.onEscapePressed: event => {
+            event.accepted = field.text !== "";
+            if (event.accepted)
+                root.edited("");
+        }
+
+        HvText {
+            anchors.fill: parent
+            visible: field.text === "" && field.preeditText === ""
+            text: root.prompt
+            decorative: true
+            color: root.dimInk
+            font: field.font
+            elide: Text.ElideRight
+            verticalAlignment: Text.AlignVCenter
+        }
+    }
+    Pressable {
+        id: clear
+        anchors {
+            right: parent.right
+            rightMargin: 5
+            verticalCenter: parent.verticalCenter
+        }
+        visible: field.text !== ""
+        width: 24
+        height: 24
+        padding: 4
+        cornerRadius: 12
+        tip: "Clear search"
+        focusInk: root.ink
+        onClicked: {
+            root.edited("");
+            field.forceActiveFocus();
+        }
+        contentItem: Symbol {
+            name: "xmark.circle.fill"
+            ink: clear.hovered ? root.ink : root.dimInk
+        }
+    }
+}

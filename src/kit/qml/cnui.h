@@ -1,0 +1,112 @@
+// The kit as QML sees it: its colours, its fonts, the choice of theme and of zoom.
+#pragma once
+
+#include "kit/themes.h"
+
+#include <QAbstractListModel>
+#include <QFont>
+#include <QObject>
+#include <QQuickItem>
+#include <QSizeF>
+#include <QtQml/qqml.h>
+
+struct CNKitThemeForQml {
+    Q_GADGET
+    QML_FOREIGN(CNKitTheme)
+    QML_VALUE_TYPE(cnKitTheme)
+};
+
+/// Colours and fonts of the kit's widgets.
+class CNUI : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(CNKitTheme theme READ theme NOTIFY themeChanged)
+    Q_PROPERTY(QString appName READ appName CONSTANT)
+    /// False while pictures are taken: then nothing may be caught half-way.
+    Q_PROPERTY(bool animated READ animated CONSTANT)
+public:
+    explicit CNUI(QObject *parent = nullptr);
+
+    [[nodiscard]] CNKitTheme theme() const { return m_theme; }
+    [[nodiscard]] QString appName() const;
+    [[nodiscard]] bool animated() const;
+
+    /// The text font in a size in points and a weight such as Font.Bold; `tracking` is added
+    /// between letters, in points.
+    Q_INVOKABLE [[nodiscard]] QFont cnFont(
+        qreal size, int weight = QFont::Normal, qreal tracking = 0) const;
+    /// The monospaced font, for figures that must not dance.
+    Q_INVOKABLE [[nodiscard]] QFont cnMono(qreal size, int weight = QFont::Normal) const;
+
+    /// `text` in the platform's own words, such as "Ctrl+[" for "⌘[".
+    Q_INVOKABLE [[nodiscard]] QString localized(const QString &text) const;
+
+    /// A key sequence such as "Ctrl+1" as the platform writes it.
+    Q_INVOKABLE [[nodiscard]] QString shortcutText(const QString &sequence) const;
+
+    /// A menu's text without the mark of its mnemonic: "&Go" gives "Go", "A && B" gives "A & B".
+    Q_INVOKABLE [[nodiscard]] QString withoutMnemonic(const QString &text) const;
+
+    /// A neutral gray, 0 (black) to 1 (white).
+    Q_INVOKABLE [[nodiscard]] QColor gray(qreal white, qreal opacity = 1) const;
+
+Q_SIGNALS:
+    void themeChanged();
+
+private:
+    CNKitTheme m_theme;
+};
+
+/// The themes as rows of a single-choice menu. The preference may name a theme that is gone; then
+/// no row is checked.
+class ThemeList : public QAbstractListModel
+{
+    Q_OBJECT
+    QML_ELEMENT
+public:
+    enum Role { NameRole = Qt::UserRole, IDRole, CheckedRole };
+
+    explicit ThemeList(QObject *parent = nullptr);
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    Q_INVOKABLE void choose(const QString &themeID);
+
+private:
+    QList<CRVNTheme> m_themes;
+};
+
+/// The interface zoom.
+class ZoomControl : public QObject
+{
+    Q_OBJECT
+    QML_NAMED_ELEMENT(CNZoom)
+    QML_SINGLETON
+    Q_PROPERTY(qreal zoom READ zoom NOTIFY zoomChanged)
+    Q_PROPERTY(QStringList levelTitles READ levelTitles CONSTANT)
+public:
+    explicit ZoomControl(QObject *parent = nullptr);
+
+    [[nodiscard]] qreal zoom() const;
+    [[nodiscard]] QStringList levelTitles() const;
+
+    Q_INVOKABLE void zoomIn();
+    Q_INVOKABLE void zoomOut();
+    Q_INVOKABLE void actualSize();
+    /// Takes the n-th of `levelTitles`.
+    Q_INVOKABLE void chooseLevel(int index);
+
+    Q_INVOKABLE [[nodiscard]] QSizeF logicalSize(QSizeF offered, qreal zoom, QSizeF minimum) const;
+    Q_INVOKABLE [[nodiscard]] bool scrolls(QSizeF offered, qreal zoom, QSizeF minimum) const;
+
+    /// Brings a flickable back to its origin: now, on the next turn of the event loop, and four
+    /// times while the layout settles. Requests are not cancelled by later ones.
+    Q_INVOKABLE void scrollHome(QQuickItem *flickable);
+
+Q_SIGNALS:
+    void zoomChanged();
+};

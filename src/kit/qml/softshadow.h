@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QColor>
+#include <QQuickItem>
+#include <QtQml/qqml.h>
+
+/// The soft shadow, or glow, of a rounded rectangle as large as this item.
+///
+/// It spreads `blur` beyond the item on all sides and takes no clicks. Drawn as a nine-patch of a
+/// small picture that was blurred once, so it costs the same at any size and looks the same with
+/// and without a graphics processor.
+class SoftShadow : public QQuickItem
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY lookChanged)
+    Q_PROPERTY(qreal radius READ radius WRITE setRadius NOTIFY lookChanged)
+    Q_PROPERTY(qreal blur READ blur WRITE setBlur NOTIFY lookChanged)
+public:
+    explicit SoftShadow(QQuickItem *parent = nullptr);
+
+    [[nodiscard]] QColor color() const { return m_color; }
+    void setColor(const QColor &color);
+    /// Corner radius of the shape that casts the shadow.
+    [[nodiscard]] qreal radius() const { return m_radius; }
+    void setRadius(qreal radius);
+    /// Reach of the blur, at least 0.
+    [[nodiscard]] qreal blur() const { return m_blur; }
+    void setBlur(qreal blur);
+
+Q_SIGNALS:
+    void lookChanged();
+
+protected:
+    QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *data) override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+
+private:
+    void look();
+
+    QColor m_color = Qt::black;
+    qreal m_radius = 0;
+    qreal m_blur = 0;
+};

@@ -1,0 +1,67 @@
+#include "textglow.h"
+
+#include "kit/softblur.h"
+
+#include <QPainter>
+#include <QTextLayout>
+
+void TextGlow::setText(const QString &text)
+{
+    if (assign(m_text, text))
+        Q_EMIT lookChanged();
+}
+
+void TextGlow::setFont(const QFont &font)
+{
+    if (assign(m_font, font))
+        Q_EMIT lookChanged();
+}
+
+void TextGlow::setColor(const QColor &color)
+{
+    if (assign(m_color, color))
+        Q_EMIT lookChanged();
+}
+
+void TextGlow::setAlignment(int alignment)
+{
+    if (assign(m_alignment, alignment))
+        Q_EMIT lookChanged();
+}
+
+void TextGlow::setBlur(qreal blur)
+{
+    if (assign(m_blur, blur))
+        Q_EMIT lookChanged();
+}
+
+void TextGlow::paint(QPainter *painter)
+{
+    // The item is the text's box with `blur` of margin, which softBlur() needs.
+    QImage mask(textureSize(), QImage::Format_ARGB32_Premultiplied);
+    if (mask.isNull())
+        return;
+    mask.fill(Qt::transparent);
+    const double scale = renderScale();
+    mask.setDevicePixelRatio(scale);
+
+    QTextLayout layout(m_text, m_font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WordWrap);
+    option.setAlignment(Qt::Alignment(m_alignment));
+    layout.setTextOption(option);
+    layout.beginLayout();
+    double top = 0;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width() - 2 * m_blur);
+        line.setPosition({ 0, top });
+        top += line.height();
+    }
+    layout.endLayout();
+    {
+        QPainter ink(&mask);
+        ink.setPen(Qt::black);
+        layout.draw(&ink, { m_blur, m_blur });
+    }
+    painter->drawImage(boundingRect(), softBlur(mask, m_blur * scale, m_color));
+}

@@ -1,0 +1,355 @@
+#include "kit/preferences.h"
+
+#include "kit/printing.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString kTheme = u"crvn.theme"_s;
+const QString kZoom = u"crvn.zoom"_s;
+
+class PreferencesTest : public ::testing::Test
+{
+protected:
+    [[nodiscard]] QByteArray bytes() const
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    [[nodiscard]] QList<QByteArray> lines() const { return bytes().split('\n'); }
+
+    // As a user leaves it who edits the file by hand while the program isn't running.
+    void writeByHand(const QByteArray &content) const
+    {
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(path).path()));
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(file.write(content), content.size());
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath(u"A Program/A Program.conf"_s);
+};
+
+// The keys of the changes that a Preferences object has signalled, in their order.
+class Changes
+{
+public:
+    explicit Changes(Preferences &preferences)
+    {
+        QObject::connect(&preferences, &Preferences::changed, &m_context,
+            [this](const QString &key) { keys.append(key); });
+    }
+    QStringList keys;
+
+private:
+    QObject m_context;
+};
+
+} // namespace
+
+TEST_F(PreferencesTest, HoldNothingAtFirst)
+{
+    const Preferences preferences(path);
+    EXPECT_FALSE(preferences.contains(kTheme));
+    EXPECT_EQ(preferences.text(kTheme), QString());
+    EXPECT_EQ(preferences.number(kZoom), 0);
+}
+
+TEST_F(PreferencesTest, MakeNoFileUntilSomethingIsSet)
+{
+    {
+        Preferences preferences(path);
+        preferences.remove(kTheme);
+        EXPECT_EQ(preferences.text(kTheme), QString());
+    }
+    EXPECT_FALSE(QFileInfo::exists(path));
+}
+
+TEST_F(PreferencesTest, GiveBackWhatWasSet)
+{
+    Preferences preferences(path);
+    preferences.set(kTheme, u"rose-gold"_s);
+    preferences.set(kZoom, 1.15);
+    EXPECT_TRUE(preferences.contains(kTheme));
+    EXPECT_EQ(preferences.text(kTheme), u"rose-gold"_s);
+    EXPECT_EQ(preferences.number(kZoom), 1.15);
+}
+
+TEST_F(PreferencesTest, AreAnIniFileWithTheKeysAsTheyStand)
+{
+    Preferences preferences(path);
+    preferences.set(kTheme, u"rose-gold"_s);
+    preferences.set(kZoom, 1.15);
+    EXPECT_EQ(lines().first(), "[General]");
+    EXPECT_TRUE(lines().contains("crvn.theme=rose-gold")) << bytes().constData();
+    EXPECT_TRUE(lines().contains("crvn.zoom=1.15")) << bytes().constData();
+}
+
+TEST_F(PreferencesTest, AreWrittenThroughAtEachChange)
+{
+    Preferences preferences(path);
+    preferences.set(kTheme, u"rose-gold"_s);
+    EXPECT_TRUE(lines().contains("crvn.theme=rose-gold")) << bytes().constData();
+    preferences.set(kTheme, u"brushed-gray"_s);
+    EXPECT_TRUE(lines().contains("crvn.theme=brushed-gray")) << bytes().constData();
+
+    const Preferences second(path);
+    EXPECT_EQ(second.text(kTheme), u"brushed-gray"_s);
+}
+
+TEST_F(PreferencesTest, AreThereAgainAfterALaunch)
+{
+    {
+        Preferences before(path);
+        before.set(kTheme, u"rose-gold"_s);
+        before.set(kZoom, 1.3);
+    }
+    const Preferences after(path);
+    EXPECT_EQ(after.text(kTheme), u"rose-gold"_s);
+    EXPECT_EQ(after.number(kZoom), 1.3);
+}
+
+TEST_F(PreferencesTest, KeepTextsWhateverTheirCharacters)
+{
+    const QStringList texts = { u"@Size(1 2)"_s, u"a, b"_s, u"50%"_s, u"\"quoted\""_s, u"a;b=c"_s,
+        u"Grün 🎨"_s, u"two\nlines"_s, u" blanks "_s };
+    for (const QString &text : texts) {
+        {
+            Preferences before(path);
+            before.set(kTheme, text);
+        }
+        const Preferences after(path);
+        EXPECT_EQ(after.text(kTheme), text);
+    }
+}
+
+TEST_F(PreferencesTest, RemovedAreGoneFromTheFileToo)
+{
+    Preferences preferences(path);
+    preferences.set(kTheme, u"rose-gold"_s);
+    preferences.set(kZoom, 1.3);
+    preferences.remove(kTheme);
+    EXPECT_FALSE(preferences.contains(kTheme));
+    EXPECT_EQ(preferences.text(kTheme), QString());
+    EXPECT_EQ(preferences.number(kZoom), 1.3);
+    EXPECT_FALSE(bytes().contains("crvn.theme"));
+    EXPECT_TRUE(bytes().contains("crvn.zoom"));
+    EXPECT_FALSE(Preferences(path).contains(kTheme));
+}
+
+TEST_F(PreferencesTest, SignalAChangeOnce)
+{
+    Preferences preferences(path);
+    const Changes changes(preferences);
+    preferences.set(kTheme, u"rose-gold"_s);
+    preferences.set(kZoom, 1.3);
+    preferences.remove(kTheme);
+    EXPECT_EQ(changes.keys, QStringList({ kTheme, kZoom, kTheme }));
+}
+
+TEST_F(PreferencesTest, SignalNothingIfNothingChanges)
+{
+    Preferences preferences(path);
+    preferences.set(kTheme, u"rose-gold"_s);
+    preferences.set(kZoom, 1.3);
+    const Changes changes(preferences);
+    preferences.set(kTheme, u"rose-gold"_s);
+    preferences.set(kZoom, 1.3);
+    preferences.remove(u"no.such.key"_s);
+    EXPECT_EQ(changes.keys, QStringList());
+}
+
+TEST_F(PreferencesTest, SettingWhatIsThereAlreadyWritesNothing)
+{
+    writeByHand("; chosen by hand\n[General]\ncrvn.zoom=1.30\ncrvn.theme=rose-gold\n");
+    const QByteArray before = bytes();
+    Preferences preferences(path);
+    preferences.set(kTheme, u"rose-gold"_s);
+    EXPECT_EQ(bytes(), before);
+}
+
+TEST_F(PreferencesTest, ReadFromTheFileCountAsSet)
+{
+    writeByHand("[General]\ncrvn.zoom=1.3\n");
+    Preferences preferences(path);
+    const Changes changes(preferences);
+    preferences.set(kZoom, 1.3);
+    EXPECT_EQ(changes.keys, QStringList());
+    preferences.set(kZoom, 1.15);
+    EXPECT_EQ(changes.keys, QStringList(kZoom));
+}
+
+TEST_F(PreferencesTest, TheNewValueIsThereWhenTheSignalComes)
+{
+    Preferences preferences(path);
+    QString seen;
+    QObject::connect(&preferences, &Preferences::changed, &preferences,
+        [&](const QString &key) { seen = preferences.text(key); });
+    preferences.set(kTheme, u"rose-gold"_s);
+    EXPECT_EQ(seen, u"rose-gold"_s);
+}
+
+TEST_F(PreferencesTest, AnEmptyTextIsAValue)
+{
+    Preferences preferences(path);
+    const Changes changes(preferences);
+    preferences.set(kTheme, QString());
+    EXPECT_TRUE(preferences.contains(kTheme));
+    EXPECT_EQ(preferences.text(kTheme), QString());
+    EXPECT_EQ(changes.keys, QStringList(kTheme));
+}
+
+TEST_F(PreferencesTest, WhatIsNoNumberReadsAsZero)
+{
+    for (const char *value : { "", "large", "115%", "1,5", "1.15 or so", "@Invalid()" }) {
+        writeByHand(QByteArray("[General]\ncrvn.zoom=") + value + '\n');
+        EXPECT_EQ(Preferences(path).number(kZoom), 0) << value;
+    }
+}
+
+TEST_F(PreferencesTest, ANumberInOtherSpellingsReadsAsThatNumber)
+{
+    for (const char *value : { "1.5", "1.50", "\"1.5\"", "15e-1", "+1.5" }) {
+        writeByHand(QByteArray("[General]\ncrvn.zoom=") + value + '\n');
+        EXPECT_EQ(Preferences(path).number(kZoom), 1.5) << value;
+    }
+}
+
+TEST_F(PreferencesTest, AnUnquotedCommaStaysInTheText)
+{
+    writeByHand("[General]\ncrvn.theme=rose,gold\n");
+    EXPECT_EQ(Preferences(path).text(kTheme), u"rose,gold"_s);
+}
+
+TEST_F(PreferencesTest, AnUnquotedCommaCanBeReplacedByNothing)
+{
+    writeByHand("[General]\ncrvn.theme=rose,gold\n");
+    Preferences preferences(path);
+    const Changes changes(preferences);
+    preferences.set(kTheme, QString());
+    EXPECT_EQ(preferences.text(kTheme), QString());
+    EXPECT_EQ(changes.keys, QStringList(kTheme));
+}
+
+TEST_F(PreferencesTest, AFileThatIsNoneReadsAsEmptyAndCanBeWritten)
+{
+    const QByteArray noise("\x00\xFF[[[\n=\n%%%=\xC3\n]]", 16);
+    writeByHand(noise);
+    {
+        Preferences preferences(path);
+        EXPECT_FALSE(preferences.contains(kTheme));
+        EXPECT_EQ(preferences.number(kZoom), 0);
+        preferences.set(kTheme, u"rose-gold"_s);
+    }
+    EXPECT_EQ(Preferences(path).text(kTheme), u"rose-gold"_s);
+}
+
+TEST_F(PreferencesTest, ValuesOfOthersInTheFileStay)
+{
+    writeByHand("[General]\nwritten.by=hand\n\n[Section]\nkey=value\n");
+    Preferences preferences(path);
+    preferences.set(kTheme, u"rose-gold"_s);
+    EXPECT_TRUE(lines().contains("written.by=hand")) << bytes().constData();
+    EXPECT_TRUE(lines().contains("key=value")) << bytes().constData();
+}
+
+TEST_F(PreferencesTest, AFileThatCanNotBeWrittenCostsOnlyTheMemoryOfTheNextLaunch)
+{
+    // A file stands where the folder should be.
+    QFile obstacle(folder.filePath(u"A Program"_s));
+    ASSERT_TRUE(obstacle.open(QIODevice::WriteOnly));
+    obstacle.close();
+
+    Preferences preferences(path);
+    const Changes changes(preferences);
+    preferences.set(kTheme, u"rose-gold"_s);
+    EXPECT_EQ(preferences.text(kTheme), u"rose-gold"_s);
+    EXPECT_EQ(changes.keys, QStringList(kTheme));
+    EXPECT_TRUE(QFileInfo(folder.filePath(u"A Program"_s)).isFile());
+}
+
+TEST_F(PreferencesTest, KeptInMemoryLeaveTheFileByteForByteAlone)
+{
+    writeByHand("; mine\n[General]\ncrvn.theme=rose-gold\ncrvn.zoom=1.30\n");
+    const QByteArray before = bytes();
+    {
+        Preferences preferences(path);
+        preferences.keepInMemory();
+        preferences.set(kTheme, u"brushed-gray"_s);
+        preferences.set(kZoom, 2.0);
+        preferences.remove(kTheme);
+        EXPECT_EQ(bytes(), before);
+    }
+    EXPECT_EQ(bytes(), before);
+}
+
+TEST_F(PreferencesTest, KeptInMemoryMakeNoFile)
+{
+    {
+        Preferences preferences(path);
+        preferences.keepInMemory();
+        preferences.set(kTheme, u"brushed-gray"_s);
+    }
+    EXPECT_FALSE(QFileInfo::exists(path));
+    EXPECT_FALSE(QFileInfo::exists(QFileInfo(path).path()));
+}
+
+TEST_F(PreferencesTest, KeptInMemoryForgetWhatTheFileHeld)
+{
+    writeByHand("[General]\ncrvn.theme=rose-gold\n");
+    Preferences preferences(path);
+    ASSERT_TRUE(preferences.contains(kTheme));
+    preferences.keepInMemory();
+    EXPECT_FALSE(preferences.contains(kTheme));
+    EXPECT_EQ(preferences.text(kTheme), QString());
+}
+
+TEST_F(PreferencesTest, KeptInMemoryBehaveLikeThoseInAFile)
+{
+    Preferences preferences(path);
+    preferences.keepInMemory();
+    const Changes changes(preferences);
+    preferences.set(kTheme, u"brushed-gray"_s);
+    preferences.set(kTheme, u"brushed-gray"_s);
+    preferences.set(kZoom, 1.15);
+    EXPECT_EQ(preferences.text(kTheme), u"brushed-gray"_s);
+    EXPECT_EQ(preferences.number(kZoom), 1.15);
+    preferences.remove(kTheme);
+    preferences.remove(kTheme);
+    EXPECT_FALSE(preferences.contains(kTheme));
+    EXPECT_EQ(changes.keys, QStringList({ kTheme, kZoom, kTheme }));
+}
+
+TEST_F(PreferencesTest, KeptInMemoryAgainBeginAnew)
+{
+    Preferences preferences(path);
+    preferences.keepInMemory();
+    preferences.set(kTheme, u"brushed-gray"_s);
+    preferences.keepInMemory();
+    EXPECT_FALSE(preferences.contains(kTheme));
+}
+
+#ifdef Q_OS_LINUX
+TEST(SharedPreferences, LieInTheUsersConfigurationFolder)
+{
+    // For the life of the process: the shared object finds its place once.
+    static const QTemporaryDir home;
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path()));
+    ASSERT_EQ(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation), home.path());
+
+    Preferences::shared().set(u"a.test"_s, u"was here"_s);
+    const Preferences file(home.filePath(u"CRVN Halvorin/CRVN Halvorin.conf"_s));
+    EXPECT_EQ(file.text(u"a.test"_s), u"was here"_s);
+    Preferences::shared().remove(u"a.test"_s);
+}
+#endif

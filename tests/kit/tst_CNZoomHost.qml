@@ -1,0 +1,192 @@
+import QtQuick
+import QtQuick.Templates as T
+import QtTest
+import Halvorin.Kit
+import "Find.js" as Find
+
+TestCase {
+    id: test
+    name: "CNZoomHost"
+    when: windowShown
+    width: 1200
+    height: 900
+    visible: true
+
+    Component {
+        id: hosts
+        CNZoomHost {
+            readonly property Item page: page
+            Item {
+                id: page
+                anchors.fill: parent
+            }
+        }
+    }
+    Component {
+        id: flickables
+        Flickable {
+            width: 100
+            height: 100
+            contentWidth: 1000
+            contentHeight: 1000
+        }
+    }
+
+    function init() {
+        CNZoom.actualSize();
+    }
+    function cleanup() {
+        CNZoom.actualSize();
+    }
+
+    function host(width, height, zoomLevel) {
+        const item = createTemporaryObject(hosts, test, { width: width, height: height });
+        CNZoom.chooseLevel(CNZoom.levelTitles.indexOf(zoomLevel));
+        return item;
+    }
+    // The page's upper left and lower right corners as they lie in the window.
+    function area(item) {
+        return item.page.mapToItem(item, 0, 0, item.page.width, item.page.height);
+    }
+    function bars(item) {
+        const surface = Find.scroller(item);
+        return { vertical: surface.T.ScrollBar.vertical.visible, horizontal: surface.T.ScrollBar.horizontal.visible };
+    }
+
+    function test_shows_its_content_as_it_is_at_100_percent() {
+        const item = host(1000, 700, "100%");
+        compare(item.page.width, 1000);
+        compare(item.page.height, 700);
+        compare(area(item), Qt.rect(0, 0, 1000, 700));
+        compare(bars(item), { vertical: false, horizontal: false });
+    }
+
+    function test_has_a_smallest_size_of_960_by_640() {
+        const item = host(500, 300, "100%");
+        compare(item.minSize, Qt.size(960, 640));
+        compare(item.page.width, 960);
+        compare(item.page.height, 640);
+        compare(bars(item), { vertical: true, horizontal: true });
+    }
+
+    function test_keeps_its_smallest_size_at_200_percent() {
+        const item = host(1000, 700, "200%");
+        compare(item.page.width, 960);
+        compare(item.page.height, 640);
+        compare(area(item), Qt.rect(0, 0, 1920, 1280));
+        const surface = Find.scroller(item);
+        compare(surface.contentWidth, 1920);
+        compare(surface.contentHeight, 1280);
+        compare(surface.contentX, 0);
+        compare(surface.contentY, 0);
+        compare(bars(item), { vertical: true, horizontal: true });
+    }
+
+    function test_fills_a_large_window_at_any_zoom() {
+        const item = host(1200, 900, "115%");
+        fuzzyCompare(item.page.width, 1200 / 1.15, 0.001);
+        fuzzyCompare(item.page.height, 900 / 1.15, 0.001);
+        fuzzyCompare(area(item).width, 1200, 0.001);
+        fuzzyCompare(area(item).height, 900, 0.001);
+        compare(bars(item), { vertical: false, horizontal: false });
+    }
+
+    function test_shrinks_its_content_below_100_percent() {
+        const item = host(1020, 680, "85%");
+        fuzzyCompare(item.page.width, 1200, 0.001);
+        fuzzyCompare(item.page.height, 800, 0.001);
+        fuzzyCompare(area(item).width, 1020, 0.001);
+        compare(bars(item), { vertical: false, horizontal: false });
+    }
+
+    function test_scrolls_on_the_axis_that_needs_it() {
+        const item = host(1200, 600, "100%");
+        compare(item.page.width, 1200);
+        compare(item.page.height, 640);
+        compare(bars(item), { vertical: true, horizontal: false });
+    }
+
+    function test_forgives_one_point() {
+        const item = host(1000, 639, "100%");
+        compare(bars(item), { vertical: false, horizontal: false });
+        item.height = 638;
+        compare(bars(item), { vertical: true, horizontal: false });
+    }
+
+    function test_lays_out_anew_for_another_window_and_keeps_its_content() {
+        const item = host(1000, 700, "100%");
+        const page = item.page;
+        item.width = 1100;
+        compare(item.page.width, 1100);
+        CNZoom.zoomIn();
+        fuzzyCompare(item.page.width, 960, 0.001);
+        verify(item.page === page);
+    }
+
+    function test_returns_to_its_origin_when_zoom_or_window_change() {
+        const item = host(1000, 700, "200%");
+        const surface = Find.scroller(item);
+        surface.contentX = 300;
+        surface.contentY = 200;
+        CNZoom.zoomOut();
+        compare(surface.contentX, 0);
+        compare(surface.contentY, 0);
+        surface.contentX = 300;
+        surface.contentY = 200;
+        item.height = 650;
+        compare(surface.contentX, 0);
+        compare(surface.contentY, 0);
+    }
+
+    function test_comes_home_six_times() {
+        const item = createTemporaryObject(flickables, test, { contentX: 50, contentY: 60 });
+        CNZoom.scrollHome(item);
+        compare(item.contentX, 0);
+        compare(item.contentY, 0);
+        // Whatever the layout does meanwhile, five more follow.
+        for (let i = 0; i < 5; ++i) {
+            item.contentX = 50;
+            item.contentY = 60;
+            tryCompare(item, "contentX", 0);
+            compare(item.contentY, 0);
+        }
+    }
+
+    function test_comes_home_at_the_next_turn_of_the_event_loop() {
+        const item = createTemporaryObject(flickables, test);
+        CNZoom.scrollHome(item);
+        item.contentY = 60;
+        wait(0);
+        compare(item.contentY, 0);
+    }
+
+    function test_two_requests_end_where_one_does() {
+        const item = createTemporaryObject(flickables, test, { contentX: 50, contentY: 60 });
+        CNZoom.scrollHome(item);
+        CNZoom.scrollHome(item);
+        compare(item.contentX, 0);
+        for (let i = 0; i < 5; ++i) {
+            item.contentX = 50;
+            tryCompare(item, "contentX", 0);
+        }
+    }
+
+    function test_a_request_outlives_what_it_was_for() {
+        const item = flickables.createObject(test, { contentY: 60 });
+        CNZoom.scrollHome(item);
+        item.destroy();
+        wait(0);
+        CNZoom.scrollHome(null);
+        wait(0);
+    }
+
+    function test_painted_items_get_the_pixels_that_they_cover() {
+        const item = host(1000, 700, "100%");
+        const capsule = createTemporaryQmlObject("import Halvorin.Kit; ContinuousRectangle { width: 40; height: 20 }", item.page);
+        compare(capsule.textureSize, Qt.size(40, 20));
+        CNZoom.chooseLevel(CNZoom.levelTitles.indexOf("200%"));
+        compare(capsule.textureSize, Qt.size(80, 40));
+        CNZoom.chooseLevel(CNZoom.levelTitles.indexOf("115%"));
+        compare(capsule.textureSize, Qt.size(46, 23));
+    }
+}
