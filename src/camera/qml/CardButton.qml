@@ -1,0 +1,27 @@
+import QtQuick
+import Halvorin.Kit
+import Halvorin.Camera
+
+/*! A card that can be pressed as a whole. Its content stands in `content`; `text` is its name for
+    assistive technology. */
+Pressable {
+    id: root
+
+    required property hvColors c
+    default property alias content: inner.data
+
+    padding: 10
+    cornerRadius: 16
+    focusInk: root.c.glow
+    scale: root.down ? 0.99 : 1
+
+    implicitHeight: inner.childrenRect.height + topPadding + bottomPadding
+
+    contentItem: Item {
+        id: inner
+    }
+    background: OLEDCard {
+        c: root.c
+        raised: root.hovered
+    }
+}

@@ -1,0 +1,47 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Halvorin.Kit
+import Halvorin.Camera
+
+/*! Small buttons in columns that fit the width, each for an item with the roles `itemID` and
+    `title`; the chosen id goes out with `chosen`. Without items it takes no height. */
+Grid {
+    id: root
+
+    required property var model
+    required property hvColors c
+    property string symbol: ""
+
+    signal chosen(string itemID)
+
+    QtObject {
+        id: metrics
+        readonly property real widest: {
+            let widest = 0;
+            for (let i = 0; i < chips.count; ++i)
+                widest = Math.max(widest, chips.itemAt(i)?.implicitWidth ?? 0);
+            return widest;
+        }
+        readonly property real columnWidth: Math.min(root.width, Math.max(120, metrics.widest))
+    }
+
+    spacing: 8
+    columns: Math.max(1, Math.floor((root.width + root.spacing) / (metrics.columnWidth + root.spacing)))
+    visible: chips.count > 0
+
+    Repeater {
+        id: chips
+        model: root.model
+        delegate: GlowButtonStyle {
+            required property string itemID
+            required property string title
+            width: Math.min(implicitWidth, root.width)
+            text: title
+            symbol: root.symbol
+            compact: true
+            c: root.c
+            onClicked: root.chosen(itemID)
+        }
+    }
+}

@@ -1,0 +1,69 @@
+import QtQuick
+import Halvorin.Kit
+import Halvorin.Camera
+
+/*! A button on the display: lit when prominent, otherwise only its outline and words glow. */
+Pressable {
+    id: root
+
+    required property hvColors c
+    property bool prominent: false
+    property bool compact: false
+    property string symbol: ""
+
+    QtObject {
+        id: metrics
+        readonly property color ink: root.prominent ? "black" : root.c.glow
+        readonly property real fontSize: root.compact ? 11.5 : 12.5
+        readonly property real quiet: root.hovered ? 0.2 : 0.1
+    }
+
+    horizontalPadding: root.compact ? 10 : 14
+    verticalPadding: root.compact ? 5 : 7
+    spacing: 6
+    cornerRadius: 10
+    focusInk: root.c.oledText
+    opacity: root.down ? 0.7 : root.enabled ? 1 : 0.45
+
+    contentItem: Item {
+        implicitWidth: label.implicitWidth + (mark.visible ? mark.width + root.spacing : 0)
+        implicitHeight: Math.max(label.implicitHeight, mark.visible ? mark.height : 0)
+        Symbol {
+            id: mark
+            visible: root.symbol !== ""
+            anchors.verticalCenter: parent.verticalCenter
+            name: root.symbol
+            pointSize: metrics.fontSize
+            weight: Font.Bold
+            ink: metrics.ink
+        }
+        HvText {
+            id: label
+            x: mark.visible ? mark.width + root.spacing : 0
+            width: parent.width - x
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.text
+            decorative: true
+            elide: Text.ElideRight
+            color: metrics.ink
+            font: CNUI.cnFont(metrics.fontSize, Font.Bold)
+        }
+    }
+    background: Item {
+        SoftShadow {
+            anchors.fill: parent
+            visible: root.prominent
+            color: Qt.alpha(root.c.glow, root.hovered ? 0.45 : 0.25)
+            radius: 10
+            blur: 8
+        }
+        ContinuousRectangle {
+            anchors.fill: parent
+            radius: 10
+            fillFrom: root.prominent ? (root.hovered ? Qt.lighter(root.c.glow, 1.1) : root.c.glow)
+                                     : Qt.alpha(root.c.glow, metrics.quiet)
+            strokeWidth: 1
+            strokeFrom: Qt.alpha(root.c.glow, 0.55)
+        }
+    }
+}

@@ -1,0 +1,77 @@
+import QtQuick
+import Halvorin.Kit
+import Halvorin.Camera
+
+/*! A button of the grip rail; the selected one is lit from within. */
+Pressable {
+    id: root
+
+    required property hvColors c
+    property bool selected: false
+    property string symbol: ""
+
+    QtObject {
+        id: metrics
+        readonly property color ink: root.selected || root.hovered ? root.c.oledText : root.c.engrave
+        readonly property real lift: root.hovered ? 0.06 : 0
+    }
+
+    horizontalPadding: 12
+    verticalPadding: 9
+    cornerRadius: 10
+    focusInk: root.c.glow
+    scale: root.down ? 0.97 : 1
+
+    contentItem: Item {
+        implicitWidth: label.x + label.implicitWidth
+        implicitHeight: Math.max(mark.height, label.implicitHeight)
+        Item {
+            id: mark
+            width: 20
+            height: 18
+            anchors.verticalCenter: parent.verticalCenter
+            Symbol {
+                anchors.centerIn: parent
+                name: root.symbol
+                pointSize: 14
+                weight: Font.DemiBold
+                ink: metrics.ink
+            }
+        }
+        HvText {
+            id: label
+            x: mark.width + 8
+            // The longest title may use some of the padding.
+            width: parent.width - x + root.rightPadding - 4
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.text
+            decorative: true
+            color: metrics.ink
+            font: CNUI.cnFont(12.5, Font.Bold)
+            elide: Text.ElideRight
+        }
+    }
+    background: Item {
+        SoftShadow {
+            anchors.fill: parent
+            anchors.topMargin: root.selected ? 0 : 2
+            color: root.selected ? Qt.alpha(root.c.glow, 0.45) : CNUI.gray(0, 0.5)
+            radius: 10
+            blur: root.selected ? 9 : 5
+        }
+        ContinuousRectangle {
+            anchors.fill: parent
+            radius: 10
+            fillFrom: CNUI.gray(0.07)
+        }
+        ContinuousRectangle {
+            anchors.fill: parent
+            radius: 10
+            fillFrom: root.selected ? Qt.alpha(root.c.accent, 0.95) : CNUI.gray(0.2 + metrics.lift)
+            fillTo: root.selected ? Qt.alpha(root.c.accent, 0.55) : CNUI.gray(0.07 + metrics.lift)
+            strokeWidth: 1
+            strokeFrom: CNUI.gray(1, 0.3)
+            strokeTo: CNUI.gray(0, 0.8)
+        }
+    }
+}

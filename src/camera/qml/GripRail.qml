@@ -1,0 +1,46 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Halvorin.Kit
+import Halvorin.Camera
+import Halvorin.Shell
+
+/*! The rail at the camera's grip: a button for each screen. */
+Item {
+    id: root
+
+    required property hvColors c
+
+    implicitWidth: 214
+
+    ContinuousRectangle {
+        anchors.fill: parent
+        radius: 34
+        fillFrom: CNUI.gray(0, 0.55)
+        strokeWidth: 1.5
+        strokeFrom: CNUI.gray(1, 0.18)
+        strokeTo: CNUI.gray(0, 0.8)
+    }
+    Column {
+        anchors.fill: parent
+        anchors.margins: 12
+        spacing: 8
+
+        Repeater {
+            model: ScreenList {}
+            delegate: GripButtonStyle {
+                required property int screen
+                required property string title
+                required symbol
+                width: parent?.width ?? 0
+                c: root.c
+                selected: AppModel.screen === screen
+                text: title
+                tip: title
+                onClicked: AppModel.screen = screen
+                Accessible.checkable: true
+                Accessible.checked: selected
+            }
+        }
+    }
+}

@@ -1,0 +1,72 @@
+import QtQuick
+import Halvorin.Kit
+import Halvorin.Camera
+import Halvorin.Shell
+
+/*! The mode dial with its two arrows: turns through the screens. */
+Row {
+    id: root
+
+    required property hvColors c
+
+    spacing: 6
+
+    DialArrow {
+        anchors.verticalCenter: parent.verticalCenter
+        c: root.c
+        symbol: "chevron.left"
+        tip: CNUI.localized("Previous screen (⌘[)")
+        onClicked: AppModel.step(-1)
+    }
+    Pressable {
+        id: dial
+        width: 58
+        height: 58
+        cornerRadius: 29
+        focusInk: root.c.glow
+        tip: qsTr("Mode dial: %1. Click to turn to the next screen.").arg(AppModel.screenTitle)
+        Accessible.name: qsTr("Mode dial, %1").arg(AppModel.screenTitle)
+        onClicked: AppModel.step(1)
+
+        background: Item {
+            SoftShadow {
+                anchors.fill: parent
+                anchors.margins: 3
+                anchors.topMargin: 6
+                radius: 29
+                blur: 7
+                color: CNUI.gray(0, 0.6)
+            }
+            DialFace {
+                anchors.fill: parent
+                c: root.c
+                lit: dial.hovered
+                // One ninth of a turn for each screen, the short way round.
+                turn: AppModel.screen * 40
+                Behavior on turn {
+                    enabled: CNUI.animated
+                    RotationAnimation {
+                        duration: 200
+                        direction: RotationAnimation.Shortest
+                        easing.type: Easing.InOutQuad
+                    }
+                }
+            }
+        }
+        contentItem: HvText {
+            text: AppModel.screenShortTitle
+            decorative: true
+            color: root.c.glow
+            font: CNUI.cnFont(9, Font.Black)
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+        }
+    }
+    DialArrow {
+        anchors.verticalCenter: parent.verticalCenter
+        c: root.c
+        symbol: "chevron.right"
+        tip: CNUI.localized("Next screen (⌘])")
+        onClicked: AppModel.step(1)
+    }
+}

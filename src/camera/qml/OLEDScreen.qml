@@ -1,0 +1,34 @@
+import QtQuick
+import Halvorin.Kit
+import Halvorin.Camera
+
+/*! The camera's display: whatever is put into it, behind glass. */
+Item {
+    id: root
+
+    required property hvColors c
+    default property alias content: content.data
+
+    QtObject {
+        id: metrics
+        readonly property real bezel: 7
+        readonly property real padding: 10
+    }
+
+    ContinuousRectangle {
+        anchors.fill: parent
+        anchors.margins: metrics.bezel
+        radius: 22
+        fillFrom: root.c.oled
+    }
+    FocusScope {
+        id: content
+        anchors.fill: parent
+        anchors.margins: metrics.bezel + metrics.padding
+        focus: true
+    }
+    DisplayGlass {
+        anchors.fill: parent
+        c: root.c
+    }
+}

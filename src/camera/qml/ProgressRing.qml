@@ -1,0 +1,53 @@
+import QtQuick
+import Halvorin.Kit
+import Halvorin.Camera
+
+/*! How much of the course is done, as a ring. */
+Item {
+    id: root
+
+    required property int done
+    required property int total
+    required property hvColors c
+
+    QtObject {
+        id: metrics
+        readonly property real fraction: root.total > 0 ? root.done / root.total : 0
+        readonly property real glow: 6
+    }
+
+    implicitWidth: 150
+    implicitHeight: 150
+
+    Accessible.role: Accessible.ProgressBar
+    Accessible.name: qsTr("%1 of %2 lessons finished").arg(root.done).arg(root.total)
+
+    ProgressArc {
+        anchors.fill: parent
+        anchors.margins: -metrics.glow
+        c: root.c
+        fraction: metrics.fraction
+        Behavior on fraction {
+            enabled: CNUI.animated
+            NumberAnimation { duration: 350; easing.type: Easing.OutCubic }
+        }
+    }
+    Column {
+        anchors.centerIn: parent
+        spacing: 2
+        HvText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: qsTr("%1%").arg(Math.floor(metrics.fraction * 100))
+            decorative: true
+            font: CNUI.cnFont(30, Font.ExtraBold)
+            color: root.c.oledText
+        }
+        HvText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: qsTr("%1 of %2 lessons").arg(root.done).arg(root.total)
+            decorative: true
+            font: CNUI.cnFont(11, Font.DemiBold)
+            color: root.c.oledDim
+        }
+    }
+}

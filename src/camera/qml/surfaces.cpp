@@ -1,0 +1,217 @@
+#include "surfaces.h"
+
+#include "camera/textures.h"
+#include "kit/continuouspath.h"
+#include "kit/gradients.h"
+#include "kit/softblur.h"
+
+#include <QConicalGradient>
+#include <QLinearGradient>
+#include <QPainter>
+
+namespace {
+
+constexpr double kBodyRadius = 46;
+constexpr double kLeatherInset = 10;
+constexpr double kLeatherRadius = 40;
+constexpr double kLeatherOpacity = 0.55;
+// Pebbles stand out by their edges: a lit copy of the tile peeps out above each one and a dark
+// copy below, as under a lamp at the top left.
+constexpr double kPebbleRelief = 0.7;
+constexpr double kPebbleLight = 0.1;
+constexpr double kPebbleShade = 0.5;
+
+constexpr double kBezel = 7;
+constexpr double kBezelRadius = 28;
+constexpr double kGlassRadius = 22;
+
+constexpr double kRingWidth = 12;
+constexpr double kRingGlow = 6;
+
+QRectF inset(const QRectF &rect, double by)
+{
+    return rect.adjusted(by, by, -by, -by);
+}
+
+// The light on turned metal: two bright fans, opposite each other.
+QBrush turnedSheen(const QPointF &center, double strength)
+{
+    QConicalGradient sheen(center, 60);
+    for (const double fan : { 0.0, 0.5 }) {
+        sheen.setColorAt(fan, gray(1, 0));
+        sheen.setColorAt(fan + 0.13, gray(1, strength));
+        sheen.setColorAt(fan + 0.26, gray(1, 0));
+    }
+    sheen.setColorAt(1, gray(1, 0));
+    return sheen;
+}
+
+QPainterPath ring(const QRectF &outer, double outerRadius, double width, double innerRadius)
+{
+    QPainterPath path = continuousPath(outer, outerRadius);
+    path.addPath(continuousPath(inset(outer, width), innerRadius));
+    path.setFillRule(Qt::OddEvenFill);
+    return path;
+}
+
+} // namespace
+
+void CameraSurface::setC(const HVColors &colors)
+{
+    // Themes count as equal by their id alone, which is what tells two palettes apart.
+    if (assign(m_c, colors))
+        Q_EMIT cChanged();
+}
+
+void CameraBodyBackground::setDisplay(const QRectF &display)
+{
+    if (assign(m_display, display))
+        Q_EMIT displayChanged();
+}
+
+void CameraBodyBackground::paint(QPainter *painter)
+{
+    const QRectF area = boundingRect();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setClipRegion(QRegion(area.toAlignedRect()) - QRegion(m_display.toRect()));
+
+    const QPainterPath body = continuousPath(area, kBodyRadius);
+    painter->fillPath(body, verticalBrush(area, c().bodyHi(), c().body(), c().bodyLo()));
+
+    const QPainterPath cover = continuousPath(inset(area, kLeatherInset), kLeatherRadius);
+    const auto layLeather = [&](const QColor &tint, double opacity, double shift) {
+        QBrush leather(Textures::leatherTile(tint, renderScale()));
+        leather.setTransform(QTransform::fromTranslate(shift, shift));
+        painter->setOpacity(opacity);
+        painter->fillPath(cover, leather);
+    };
+    layLeather(gray(1), kPebbleLight, -kPebbleRelief);
+    layLeather(gray(0), kPebbleShade, kPebbleRelief);
+    layLeather(c().leather(), kLeatherOpacity, 0);
+    painter->setOpacity(1);
+
+    paintPanel(*painter, area,
+        {
+            .radius = kBodyRadius,
+            .stroke = verticalBrush(area, gray(1, 0.28), {}, gray(0, 0.7)),
+            .strokeWidth = 1.5,
+        });
+}
+
+void DisplayGlass::paint(QPainter *painter)
+{
+    const QRectF area = boundingRect();
+    const QRectF glass = inset(area, kBezel);
+    painter->setRenderHint(QPainter::Antialiasing);
+
+    painter->fillPath(ring(area, kBezelRadius, kBezel, kGlassRadius),
+        verticalBrush(area, c().bodyLo(), {}, gray(0.12)));
+    paintPanel(*painter, area,
+        {
+            .radius = kBezelRadius,
+            .stroke = verticalBrush(area, gray(0, 0.9), {}, gray(1, 0.18)),
+            .strokeWidth = 1.2,
+        });
+
+    QLinearGradient sheen(glass.topLeft(), glass.center());
+    sheen.setColorAt(0, gray(1, 0.05));
+    sheen.setColorAt(1, gray(1, 0));
+    QColor rim = c().glow();
+    rim.setAlphaF(0.18f);
+    paintPanel(*painter, glass,
+        { .radius = kGlassRadius, .fill = sheen, .stroke = rim, .strokeWidth = 1 });
+}
+
+void DialFace::setTurn(qreal degrees)
+{
+    if (assign(m_turn, degrees))
+        Q_EMIT turnChanged();
+}
+
+void DialFace::setLit(bool lit)
+{
+    if (assign(m_lit, lit))
+        Q_EMIT litChanged();
+}
+
+void DialFace::paint(QPainter *painter)
+{
+    const QRectF area = boundingRect();
+    const QRectF outer = inset(area, 2);
+    const QRectF inner = inset(area, 9);
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+
+    painter->setBrush(verticalBrush(outer, gray(m_lit ? 0.36 : 0.3), {}, gray(0.06)));
+    painter->drawEllipse(outer);
+
+    // The knurling turns with the dial; light and shade on the metal stay where the lamp is.
+    QPainterPath rim;
+    rim.addEllipse(outer);
+    rim.addEllipse(inner);
+    painter->save();
+    painter->setClipPath(rim);
+    painter->translate(area.center());
+    painter->rotate(m_turn);
+    painter->translate(-area.center());
+    Textures::paintKnurl(*painter, area.size());
+    painter->restore();
+
+    painter->setBrush(turnedSheen(area.center(), 0.22));
+    painter->drawPath(rim);
+
+    painter->setBrush(verticalBrush(inner, gray(0.22), {}, gray(0.1)));
+    painter->drawEllipse(inner);
+    painter->setBrush(turnedSheen(area.center(), 0.12));
+    painter->drawEllipse(inner);
+
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(QPen(verticalBrush(outer, gray(1, 0.34), {}, gray(0, 0.7)), 1));
+    painter->drawEllipse(inset(outer, 0.5));
+    painter->setPen(QPen(verticalBrush(inner, gray(0, 0.75), {}, gray(1, 0.16)), 1));
+    painter->drawEllipse(inset(inner, 0.5));
+}
+
+void KnurlTexture::paint(QPainter *painter)
+{
+    Textures::paintKnurl(*painter, size());
+}
+
+void ProgressArc::setFraction(qreal fraction)
+{
+    if (assign(m_fraction, qBound(0.0, fraction, 1.0)))
+        Q_EMIT fractionChanged();
+}
+
+void ProgressArc::paint(QPainter *painter)
+{
+    // Room for the glow around the stroke.
+    const QRectF circle = inset(boundingRect(), kRingWidth / 2 + kRingGlow);
+    painter->setRenderHint(QPainter::Antialiasing);
+
+    QColor track = c().glow();
+    track.setAlphaF(0.12f);
+    painter->setPen(QPen(track, kRingWidth));
+    painter->drawEllipse(circle);
+    if (m_fraction <= 0)
+        return;
+
+    QPainterPath arc;
+    arc.arcMoveTo(circle, 90);
+    arc.arcTo(circle, 90, -360 * m_fraction);
+    const QPen pen(c().glow(), kRingWidth, Qt::SolidLine, Qt::RoundCap);
+
+    const double scale = renderScale();
+    QImage mask(textureSize(), QImage::Format_ARGB32_Premultiplied);
+    mask.fill(Qt::transparent);
+    mask.setDevicePixelRatio(scale);
+    {
+        QPainter ink(&mask);
+        ink.setRenderHint(QPainter::Antialiasing);
+        ink.strokePath(arc, pen);
+    }
+    QColor glow = c().glow();
+    glow.setAlphaF(0.6f);
+    painter->drawImage(boundingRect(), softBlur(mask, kRingGlow * scale, glow));
+    painter->strokePath(arc, pen);
+}
