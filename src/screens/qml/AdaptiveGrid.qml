@@ -1,0 +1,33 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+/*! A grid with as many equal columns as fit. The cells of a row are as high as its highest. Rows
+    and columns are `spacing` apart. (columnSpacing is no help: unset, it reads as −1.) */
+Grid {
+    id: root
+
+    required property real minimumColumnWidth
+    property alias model: cells.model
+    property alias delegate: cells.delegate
+    readonly property real columnWidth: (root.width - (root.columns - 1) * root.spacing) / root.columns
+
+    function rowHeight(index: int): real {
+        const first = index - index % root.columns;
+        const end = Math.min(first + root.columns, cells.count);
+        let height = 0;
+        for (let i = first; i < end; ++i)
+            height = Math.max(height, cells.itemAt(i)?.implicitHeight ?? 0);
+        return height;
+    }
+
+    columns: Math.max(1, Math.floor((root.width + root.spacing) / (root.minimumColumnWidth + root.spacing)))
+
+    Repeater {
+        id: cells
+        onItemAdded: (index, item) => {
+            item.width = Qt.binding(() => root.columnWidth);
+            item.height = Qt.binding(() => root.rowHeight(index));
+        }
+    }
+}

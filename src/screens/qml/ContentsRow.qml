@@ -1,0 +1,63 @@
+import QtQuick
+import Halvorin.Kit
+import Halvorin.Camera
+
+/*! A line of the contents: a symbol and a title that wraps. */
+Pressable {
+    id: root
+
+    required property hvColors c
+    property string symbol: ""
+    property real symbolSize: 11
+    property color symbolInk: root.c.oledDim
+    property color ink: root.c.oledText
+    property real fontSize: 12
+    property int weight: Font.Normal
+
+    QtObject {
+        id: metrics
+        readonly property real markWidth: 16
+        readonly property real gap: 5
+    }
+
+    cornerRadius: 6
+    focusInk: root.c.glow
+
+    contentItem: Item {
+        implicitHeight: label.implicitHeight
+        Item {
+            width: metrics.markWidth
+            height: firstLine.height
+            Symbol {
+                anchors.centerIn: parent
+                name: root.symbol
+                pointSize: root.symbolSize
+                weight: root.weight === Font.Normal ? Font.DemiBold : root.weight
+                ink: root.symbolInk
+            }
+        }
+        TextMetrics {
+            id: firstLine
+            font: label.font
+            text: "X"
+        }
+        HvText {
+            id: label
+            x: metrics.markWidth + metrics.gap
+            width: parent.width - x
+            text: root.text
+            decorative: true
+            font: CNUI.cnFont(root.fontSize, root.weight)
+            color: root.ink
+            wrapMode: Text.Wrap
+        }
+    }
+    background: ContinuousRectangle {
+        visible: root.hovered
+        x: root.leftPadding - 6
+        width: root.width - x
+        height: root.height
+        radius: 6
+        fillFrom: Qt.alpha(root.c.glow, 0.07)
+    }
+}

@@ -1,0 +1,55 @@
+import QtQuick
+import Halvorin.Kit
+import Halvorin.Camera
+import Halvorin.Shell
+
+/*! What the search over everything has found; lies over the screen while there is a query. */
+FocusScope {
+    id: root
+
+    required property hvColors c
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: -10
+        color: Qt.alpha("black", 0.6)
+        // Nothing under the panel may be clicked or scrolled.
+        MouseArea {
+            anchors.fill: parent
+            hoverEnabled: true
+            onWheel: wheel => wheel.accepted = true
+        }
+    }
+    SoftShadow {
+        anchors.fill: card
+        radius: 16
+        blur: 20
+        color: "black"
+    }
+    OLEDCard {
+        id: card
+        anchors.fill: parent
+        anchors.margins: 16
+        c: root.c
+
+        PlaceholderScreen {
+            width: root.width - 52
+            height: root.height - 52
+            c: root.c
+            title: qsTr("Search")
+            line: qsTr("Searching everything at once is still being built.")
+            symbol: "magnifyingglass"
+        }
+        GlowButtonStyle {
+            x: root.width - 52 - width
+            c: root.c
+            compact: true
+            text: qsTr("Close")
+            onClicked: AppModel.globalQuery = ""
+        }
+    }
+    Shortcut {
+        sequence: "Esc"
+        onActivated: AppModel.globalQuery = ""
+    }
+}

@@ -1,0 +1,70 @@
+import QtQuick
+import Halvorin.Kit
+import Halvorin.Camera
+import Halvorin.Shell
+
+/*! A module on Campus: what it is about and how far it has been read. */
+CardButton {
+    id: root
+
+    required property string moduleID
+    required property string level
+    required property string title
+    required property string summary
+    required property int doneIn
+    required property int lessonsIn
+
+    padding: 12
+    text: qsTr("%1. %2. %3 of %4 lessons finished").arg(root.title).arg(root.level).arg(root.doneIn).arg(root.lessonsIn)
+    onClicked: AppModel.openModule(root.moduleID)
+
+    Column {
+        width: parent.width
+        height: Math.max(implicitHeight, 118)
+        spacing: 6
+
+        Item {
+            width: parent.width
+            height: Math.max(tag.implicitHeight, count.implicitHeight)
+            Tag {
+                id: tag
+                anchors.verticalCenter: parent.verticalCenter
+                text: root.level
+                color: CameraPalette.levelColor(root.level, root.c)
+                Accessible.ignored: true
+            }
+            HvText {
+                id: count
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                text: qsTr("%1/%2").arg(root.doneIn).arg(root.lessonsIn)
+                decorative: true
+                font: CNUI.cnMono(11, Font.Bold)
+                color: root.c.oledDim
+            }
+        }
+        HvText {
+            width: parent.width
+            text: root.title
+            decorative: true
+            font: CNUI.cnFont(14, Font.ExtraBold)
+            color: root.c.oledText
+            wrapMode: Text.Wrap
+        }
+        HvText {
+            width: parent.width
+            text: root.summary
+            decorative: true
+            font: CNUI.cnFont(11.5)
+            color: root.c.oledDim
+            wrapMode: Text.Wrap
+        }
+        ProgressBar {
+            width: parent.width
+            height: 4
+            c: root.c
+            done: root.doneIn
+            total: root.lessonsIn
+        }
+    }
+}

@@ -1,0 +1,90 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Halvorin.Kit
+import Halvorin.Camera
+import Halvorin.Screens
+
+/*! The introduction of a module: what it is about, its lessons and its quiz. */
+HVScroll {
+    id: root
+
+    required property string moduleID
+
+    padding: 24
+    spacing: 14
+
+    ModuleIntroduction {
+        id: module
+        moduleID: root.moduleID
+    }
+    Tag {
+        text: module.level
+        color: CameraPalette.levelColor(module.level, root.c)
+    }
+    ScreenTitle {
+        width: parent.width
+        c: root.c
+        title: module.title
+        subtitle: module.summary
+    }
+    Repeater {
+        model: LessonList {
+            moduleID: module.moduleID
+        }
+        delegate: CardButton {
+            id: card
+
+            required property string lessonID
+            required property int number
+            required property string title
+            required property int minutes
+
+            width: parent?.width ?? 0
+            c: root.c
+            text: qsTr("Lesson %1: %2, %3 min").arg(card.number).arg(card.title).arg(card.minutes)
+            onClicked: module.showLesson(card.lessonID)
+
+            Item {
+                width: parent.width
+                height: Math.max(title.implicitHeight, 18)
+
+                HvText {
+                    id: number
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: card.number
+                    decorative: true
+                    font: CNUI.cnMono(13, Font.ExtraBold)
+                    color: root.c.glow
+                }
+                HvText {
+                    id: title
+                    x: 24
+                    width: parent.width - x - minutes.width - 12
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: card.title
+                    decorative: true
+                    font: CNUI.cnFont(13.5, Font.DemiBold)
+                    color: root.c.oledText
+                    wrapMode: Text.Wrap
+                }
+                HvText {
+                    id: minutes
+                    anchors.right: parent.right
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: qsTr("%1 min").arg(card.minutes)
+                    decorative: true
+                    font: CNUI.cnFont(11)
+                    color: root.c.oledDim
+                }
+            }
+        }
+    }
+    GlowButtonStyle {
+        c: root.c
+        prominent: true
+        symbol: "checklist"
+        text: module.quizTitle
+        onClicked: module.showQuiz()
+    }
+}

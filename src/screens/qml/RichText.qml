@@ -1,0 +1,90 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Halvorin.Kit
+import Halvorin.Camera
+import Halvorin.Screens
+
+/*! A long course text: headings, bullets, callouts and paragraphs, as high as it needs to be and
+    one selection from end to end. */
+Item {
+    id: root
+
+    required property string text
+    required property hvColors c
+    property real size: 14
+
+    QtObject {
+        id: metrics
+        // Warm in every theme: a callout is a warning, whatever the camera wears.
+        readonly property color warm: Qt.rgba(1.0, 0.78, 0.35, 1)
+        readonly property real platePadding: 10
+        readonly property real barWidth: 3
+    }
+
+    implicitHeight: words.length === 0 ? 0 : words.implicitHeight
+
+    RichTextFlow {
+        id: flow
+        document: words.textDocument
+        text: root.text
+        glow: root.c.glow
+        size: root.size
+    }
+    ReadingKeys {
+        text: words
+    }
+    Repeater {
+        model: flow.plates
+        delegate: ContinuousRectangle {
+            id: plate
+            required property rect modelData
+            y: modelData.y
+            width: root.width
+            height: modelData.height
+            radius: 10
+            fillFrom: Qt.alpha(metrics.warm, 0.08)
+
+            Rectangle {
+                x: metrics.platePadding
+                y: metrics.platePadding
+                width: metrics.barWidth
+                height: plate.height - 2 * metrics.platePadding
+                color: metrics.warm
+            }
+        }
+    }
+    Repeater {
+        model: flow.dots
+        delegate: Rectangle {
+            required property rect modelData
+            x: modelData.x
+            y: modelData.y
+            width: modelData.width
+            height: modelData.height
+            radius: width / 2
+            color: root.c.glow
+        }
+    }
+    TextEdit {
+        id: words
+        width: root.width
+        readOnly: true
+        selectByMouse: true
+        persistentSelection: false
+        activeFocusOnTab: false
+        textFormat: TextEdit.PlainText
+        wrapMode: TextEdit.Wrap
+        font: CNUI.cnFont(root.size)
+        color: root.c.oledText
+        selectionColor: Qt.alpha(root.c.accent, 0.75)
+        selectedTextColor: "white"
+        onActiveFocusChanged: if (!activeFocus) deselect()
+        Accessible.role: Accessible.StaticText
+        Accessible.name: root.text
+
+        HoverHandler {
+            cursorShape: Qt.IBeamCursor
+        }
+    }
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <QtQml/qqml.h>
+
+/// The Campus screen's figures and texts: progress over the whole course, the lesson to go on
+/// with, and a row for each module (roles `moduleID`, `level`, `title`, `summary`, `doneIn`,
+/// `lessonsIn`).
+class Campus : public QAbstractListModel
+{
+    Q_OBJECT
+    QML_ELEMENT
+    /// Size of the finished set, lessons that have left the course included.
+    Q_PROPERTY(int done READ done NOTIFY progressChanged)
+    Q_PROPERTY(int total READ total CONSTANT)
+    /// The label of the button that goes on; empty in a course without lessons.
+    Q_PROPERTY(QString continueTitle READ continueTitle NOTIFY progressChanged)
+public:
+    enum Role {
+        ModuleIDRole = Qt::UserRole,
+        LevelRole,
+        TitleRole,
+        SummaryRole,
+        DoneInRole,
+        LessonsInRole,
+    };
+
+    explicit Campus(QObject *parent = nullptr);
+
+    [[nodiscard]] int done() const { return int(m_finished.size()); }
+    [[nodiscard]] int total() const;
+    [[nodiscard]] QString continueTitle() const;
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void progressChanged();
+
+private:
+    void refresh();
+
+    QSet<QString> m_finished;
+};

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QColor>
+#include <QObject>
+#include <QQuickTextDocument>
+#include <QRectF>
+#include <QVariantList>
+#include <QtQml/qqml.h>
+
+#include <QPointer>
+
+class QTextDocument;
+
+/// Lays course mark-up out in the document of a TextEdit, as plain characters with formats, so
+/// that the whole text is one selection. Reports where the ornaments stand that a document can't
+/// draw: the dots of bullets and the plates of callouts.
+class RichTextFlow : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QQuickTextDocument *document READ document WRITE setDocument NOTIFY documentChanged)
+    Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
+    Q_PROPERTY(QColor glow READ glow WRITE setGlow NOTIFY glowChanged)
+    Q_PROPERTY(qreal size READ size WRITE setSize NOTIFY sizeChanged)
+    /// Rectangles of the bullets' dots and of the callouts' plates, in the TextEdit's coordinates.
+    Q_PROPERTY(QVariantList dots READ dots NOTIFY ornamentsChanged)
+    Q_PROPERTY(QVariantList plates READ plates NOTIFY ornamentsChanged)
+public:
+    using QObject::QObject;
+
+    [[nodiscard]] QQuickTextDocument *document() const { return m_document; }
+    void setDocument(QQuickTextDocument *document);
+    [[nodiscard]] QString text() const { return m_text; }
+    void setText(const QString &text);
+    [[nodiscard]] QColor glow() const { return m_glow; }
+    void setGlow(const QColor &glow);
+    /// Base font size in points.
+    [[nodiscard]] qreal size() const { return m_size; }
+    void setSize(qreal size);
+
+    [[nodiscard]] QVariantList dots() const { return m_dots; }
+    [[nodiscard]] QVariantList plates() const { return m_plates; }
+
+Q_SIGNALS:
+    void documentChanged();
+    void textChanged();
+    void glowChanged();
+    void sizeChanged();
+    void ornamentsChanged();
+
+private:
+    void fill();
+    void placeOrnaments();
+
+    QPointer<QQuickTextDocument> m_document;
+    QString m_text;
+    QColor m_glow = Qt::white;
+    qreal m_size = 14;
+    QVariantList m_dots;
+    QVariantList m_plates;
+    bool m_filling = false;
+};
