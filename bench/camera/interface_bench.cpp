@@ -1,0 +1,154 @@
+// What a user feels: changing the screen, the theme and the zoom in the real window.
+//
+// Budget: the first correct frame within 100 ms of the change, and no single stretch of work on
+// the main thread longer than 50 ms. The time is the mean from the change to the end of the frame
+// that shows it; `busiest_ms` is the longest stretch between two rests of the event loop in the
+// whole run. Full-size course, 1440 × 948 window, offscreen, software scene graph.
+
+#include "support/fullcourse.h"
+
+#include "content/contentlibrary.h"
+#include "kit/themes.h"
+#include "kit/zoom.h"
+#include "shell/appmodel.h"
+#include "shell/launch/halvorinapp.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QAbstractEventDispatcher>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTemporaryDir>
+#include <QTimer>
+
+namespace {
+
+HalvorinApp *g_app = nullptr;
+
+/// Measures the longest stretch of work between two rests of the event loop.
+class BusyClock : public QObject
+{
+public:
+    BusyClock()
+    {
+        QAbstractEventDispatcher *dispatcher = QAbstractEventDispatcher::instance();
+        connect(dispatcher, &QAbstractEventDispatcher::awake, this, [this] { m_clock.start(); });
+        connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, [this] { note(); });
+    }
+    void begin() { m_clock.start(); }
+    [[nodiscard]] double longest() const { return m_longest; }
+
+private:
+    void note()
+    {
+        if (m_clock.isValid())
+            m_longest = std::max(m_longest, double(m_clock.nsecsElapsed()) * 1e-6);
+        m_clock.invalidate();
+    }
+
+    QElapsedTimer m_clock;
+    double m_longest = 0;
+};
+
+// Lets everything that is still under way come to rest: animations, delayed calls.
+void settle()
+{
+    QEventLoop loop;
+    QTimer::singleShot(350, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+template <typename Change>
+void measure(benchmark::State &state, const Change &change)
+{
+    QQuickWindow *window = g_app->window();
+    BusyClock busy;
+    int round = 0;
+    for (auto _ : state) {
+        settle();
+        QEventLoop loop;
+        const auto frame
+            = QObject::connect(window, &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit);
+        QElapsedTimer clock;
+        clock.start();
+        busy.begin();
+        change(round++);
+        loop.exec();
+        state.SetIterationTime(double(clock.nsecsElapsed()) * 1e-9);
+        QObject::disconnect(frame);
+    }
+    settle();
+    state.counters["busiest_ms"] = busy.longest();
+}
+
+QString lessonID(int index)
+{
+    return ContentLibrary::shared().lessons().at(index).id;
+}
+
+void BM_CampusAndBack(benchmark::State &state)
+{
+    measure(state, [](int round) {
+        AppModel::shared().setScreen(round % 2 ? Screen::Home : Screen::Exposure);
+    });
+}
+
+void BM_OpenLesson(benchmark::State &state)
+{
+    measure(state, [](int round) {
+        if (round % 2)
+            AppModel::shared().setScreen(Screen::Home);
+        else
+            AppModel::shared().openLesson(lessonID(12));
+    });
+}
+
+void BM_NextLesson(benchmark::State &state)
+{
+    AppModel::shared().setScreen(Screen::Course);
+    measure(state, [](int round) { AppModel::shared().openLesson(lessonID(20 + round % 6)); });
+}
+
+void BM_Theme(benchmark::State &state)
+{
+    AppModel::shared().setScreen(Screen::Home);
+    measure(state, [](int round) {
+        const QList<CRVNTheme> themes = CRVNThemes::all();
+        CRVNThemes::setCurrentID(themes.at(round % themes.size()).id);
+    });
+}
+
+void BM_Zoom(benchmark::State &state)
+{
+    AppModel::shared().setScreen(Screen::Home);
+    measure(state, [](int round) {
+        CNZoom::setValue(CNZoom::levels[size_t(round) % CNZoom::levels.size()] / 100.0);
+    });
+    CNZoom::setValue(1);
+}
+
+BENCHMARK(BM_CampusAndBack)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(20);
+BENCHMARK(BM_OpenLesson)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(20);
+BENCHMARK(BM_NextLesson)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(20);
+BENCHMARK(BM_Theme)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(21);
+BENCHMARK(BM_Zoom)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(21);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    benchmark::Initialize(&argc, argv);
+    // Nothing of the user's is read or written.
+    const QTemporaryDir home;
+    const FullCourse course;
+    qputenv("HV_CONTENT", course.path().toLocal8Bit());
+    for (const char *name : { "HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR" })
+        qputenv(name, home.path().toLocal8Bit());
+    if (!qEnvironmentVariableIsSet("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+
+    HalvorinApp::prepareEnvironment();
+    HalvorinApp app(argc, argv);
+    g_app = &app;
+    benchmark::RunSpecifiedBenchmarks();
+}

@@ -1,0 +1,51 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Halvorin.Kit
+import Halvorin.Shell
+
+/*! The menu that goes to a screen. */
+CNMenu {
+    id: root
+
+    title: qsTr("&Go")
+
+    ScreenList {
+        id: screens
+    }
+    Instantiator {
+        model: screens
+        delegate: CNMenuItem {
+            id: row
+
+            required property int screen
+            required property string title
+            required property string shortcut
+
+            action: T.Action {
+                text: row.title.replace("&", "&&")
+                shortcut: row.shortcut
+                onTriggered: AppModel.screen = row.screen
+            }
+        }
+        onObjectAdded: (index, object) => root.insertItem(index, object)
+        onObjectRemoved: (index, object) => root.removeItem(object)
+    }
+    CNMenuSeparator {}
+    T.Action {
+        text: qsTr("Previous Screen")
+        shortcut: "Ctrl+["
+        onTriggered: AppModel.step(-1)
+    }
+    T.Action {
+        text: qsTr("Next Screen")
+        shortcut: "Ctrl+]"
+        onTriggered: AppModel.step(1)
+    }
+    T.Action {
+        text: qsTr("Continue the Course")
+        shortcut: "Ctrl+K"
+        onTriggered: AppModel.continueCourse()
+    }
+}

@@ -1,0 +1,8 @@
+#include "shell/launch/halvorinapp.h"
+
+int main(int argc, char **argv)
+{
+    HalvorinApp::prepareEnvironment();
+    HalvorinApp app(argc, argv);
+    return app.run();
+}

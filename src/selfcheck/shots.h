@@ -1,0 +1,25 @@
+// The pictures that the snapshot mode takes: what each one is called, how large it is and what
+// the program shows on it.
+#pragma once
+
+#include <QList>
+#include <QSize>
+#include <QString>
+
+#include <functional>
+
+class AppModel;
+
+struct Shot {
+    enum class Subject { Camera, HelpCredits, TripodDiagram };
+
+    QString name;                            ///< Of the file, without ".png".
+    QSize size = QSize(1440, 920);           ///< Pixels.
+    QString themeID;                         ///< Empty keeps the theme of the shot before.
+    std::function<void(AppModel &)> arrange; ///< Puts the model in the state of the picture.
+    bool online = true;
+    Subject subject = Subject::Camera;
+};
+
+/// All pictures in the order in which they are taken.
+[[nodiscard]] QList<Shot> allShots();

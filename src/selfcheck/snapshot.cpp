@@ -1,0 +1,181 @@
+#include "selfcheck/snapshot.h"
+
+#include "content/contentlibrary.h"
+#include "kit/fonts.h"
+#include "kit/preferences.h"
+#include "kit/stillness.h"
+#include "kit/themes.h"
+#include "selfcheck/scenecamera.h"
+#include "selfcheck/shots.h"
+#include "shell/appmodel.h"
+#include "shell/setup.h"
+#include "store/hverror.h"
+#include "store/userstore.h"
+
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QQmlEngine>
+#include <QTextStream>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kOption = "--hv-snapshot"_L1;
+constexpr qsizetype kFinishedLessons = 9;
+
+void print(const QString &line)
+{
+    QTextStream(stdout) << line << Qt::endl;
+}
+
+QString samplePath()
+{
+    return QDir::temp().filePath(u"snapshot-sample.sqlite"_s);
+}
+
+void removeSample()
+{
+    for (const auto suffix : { ""_L1, "-wal"_L1, "-shm"_L1 })
+        QFile::remove(samplePath() + suffix);
+}
+
+// Offscreen whatever the user's desktop is: these pictures must come out alike everywhere.
+void leaveTheDesktop()
+{
+    for (const char *name : { "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR",
+             "QT_SCREEN_SCALE_FACTORS", "QT_USE_PHYSICAL_DPI" })
+        qunsetenv(name);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+}
+
+/// The sample data, in a file of their own for as long as this exists.
+class SampleStore
+{
+public:
+    SampleStore() { removeSample(); }
+    ~SampleStore()
+    {
+        UserStore::setShared(nullptr);
+        removeSample();
+    }
+    Q_DISABLE_COPY_MOVE(SampleStore)
+
+    /// Throws HVError if the file can't be opened or written.
+    void fill()
+    {
+        UserStore::setShared(std::make_unique<UserStore>(QUrl::fromLocalFile(samplePath())));
+        UserStore &store = *UserStore::shared();
+        for (const Lesson &lesson : ContentLibrary::shared().lessons().first(
+                 qMin(kFinishedLessons, ContentLibrary::shared().lessons().size())))
+            store.setComplete(lesson.id, true);
+        store.saveQuiz(u"m02"_s, 5, 6, QDateTime::currentDateTimeUtc());
+        store.setBookmark(u"gear"_s, u"tripod"_s, true);
+        store.setBookmark(u"lesson"_s, u"m03.2"_s, true);
+
+        Note onLight{ .targetType = u"lesson"_s,
+            .targetID = u"m01.1"_s,
+            .body = u"Light is the whole game. The camera only controls how much of it reaches "
+                    "the sensor and for how long."_s };
+        store.save(onLight);
+        Note onTripods{ .targetType = u"gear"_s,
+            .targetID = u"tripod"_s,
+            .body = u"For the mountain overlooks: carbon legs, ball head, and an L-bracket so I "
+                    "can flip to vertical fast."_s };
+        store.save(onTripods);
+    }
+};
+
+// One scene for each subject, built once and photographed in every state.
+class Studio
+{
+public:
+    explicit Studio(QQmlEngine &engine)
+        : m_engine(engine)
+    { }
+
+    [[nodiscard]] QImage take(const Shot &shot)
+    {
+        AppModel &model = AppModel::shared();
+        model.setGlobalQuery({});
+        model.setLessonID({});
+        model.setQuizModuleID({});
+        if (!shot.themeID.isEmpty())
+            CRVNThemes::setCurrentID(shot.themeID);
+        if (shot.arrange)
+            shot.arrange(model);
+        return scene(shot.subject).take(shot.size);
+    }
+
+private:
+    SceneCamera &scene(Shot::Subject subject)
+    {
+        static constexpr std::array kFiles = { "CameraScene", "HelpScene", "DiagramScene" };
+        std::unique_ptr<SceneCamera> &camera = m_cameras[size_t(subject)];
+        if (!camera) {
+            camera = std::make_unique<SceneCamera>(m_engine,
+                QUrl(u"qrc:/qt/qml/Halvorin/Selfcheck/%1.qml"_s.arg(
+                    QLatin1String(kFiles[size_t(subject)]))));
+        }
+        return *camera;
+    }
+
+    QQmlEngine &m_engine;
+    std::array<std::unique_ptr<SceneCamera>, 3> m_cameras;
+};
+
+int takeAll(const QDir &folder)
+{
+    QQmlEngine engine;
+    engine.addImportPath(u":/qt/qml"_s);
+    Studio studio(engine);
+
+    int failures = 0;
+    for (const Shot &shot : allShots()) {
+        const QImage image = studio.take(shot);
+        if (!image.isNull() && image.save(folder.filePath(shot.name + ".png"_L1))) {
+            print(u"wrote %1.png %2x%3"_s.arg(shot.name).arg(image.width()).arg(image.height()));
+        } else {
+            print("could not render "_L1 + shot.name);
+            ++failures;
+        }
+    }
+    return failures;
+}
+
+} // namespace
+
+std::optional<int> HVSnapshot::handle(const QStringList &arguments)
+{
+    const qsizetype option = arguments.indexOf(kOption);
+    if (option < 0 || option + 1 >= arguments.size())
+        return std::nullopt;
+
+    // A folder that can't be made shows in every picture that can't be written.
+    const QDir folder(arguments.at(option + 1));
+    QDir().mkpath(folder.path());
+
+    leaveTheDesktop();
+    int argc = 1;
+    char name[] = "halvorin";
+    char *argv[] = { name, nullptr };
+    const QGuiApplication application(argc, argv);
+
+    Preferences::shared().keepInMemory();
+    Stillness::keep();
+    HVSetup::configure();
+    QGuiApplication::setFont(Fonts::rounded(12.5));
+
+    try {
+        SampleStore sample;
+        sample.fill();
+        return takeAll(folder) == 0 ? 0 : 1;
+    } catch (const HVError &) {
+        print(u"could not open sample file"_s);
+        return 1;
+    }
+}

@@ -1,0 +1,144 @@
+#include "shell/launch/halvorinapp.h"
+
+#include "kit/fonts.h"
+#include "selfcheck/snapshot.h"
+#include "shell/info.h"
+#include "shell/launch/scenegraph.h"
+#include "shell/launch/singleinstance.h"
+#include "shell/launch/terminationsignals.h"
+#include "shell/setup.h"
+#include "store/userstore.h"
+
+#include <QQmlComponent>
+#include <QTextStream>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kHelp = R"(Usage: halvorin [option]
+
+Opens the camera. Options:
+  --help                 show this text
+  --version              show the version
+  --hv-snapshot FOLDER   render every screen to a PNG file in FOLDER and end
+
+Environment:
+  HV_CONTENT             folder of the course files
+  HV_DB_PATH             path of the progress file
+)"_L1;
+
+void print(const QString &text)
+{
+    QTextStream(stdout) << text;
+}
+
+// Decided from the text of the arguments, before any object of Qt's exists.
+std::optional<int> statusOfModes(const QStringList &arguments)
+{
+    if (const std::optional<int> status = HVSnapshot::handle(arguments))
+        return status;
+    if (arguments.contains("--help"_L1)) {
+        print(kHelp);
+        return 0;
+    }
+    if (arguments.contains("--version"_L1)) {
+        print(HVInfo::appName + u' ' + HVInfo::version() + u'\n');
+        return 0;
+    }
+    return std::nullopt;
+}
+
+QStringList argumentList(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+} // namespace
+
+void HalvorinApp::prepareEnvironment()
+{
+    // One design point is one logical pixel, on every desktop.
+    qputenv("QT_FONT_DPI", "72");
+}
+
+HalvorinApp::HalvorinApp(int &argc, char **argv)
+    : m_status(statusOfModes(argumentList(argc, argv)))
+{
+    if (!m_status)
+        start(argc, argv);
+}
+
+void HalvorinApp::start(int &argc, char **argv)
+{
+    // The video player's engine shares its GL context with the window.
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    m_application = std::make_unique<QGuiApplication>(argc, argv);
+    QCoreApplication::setApplicationName(HVInfo::appName);
+    QGuiApplication::setApplicationDisplayName(HVInfo::appName);
+    QCoreApplication::setApplicationVersion(HVInfo::version());
+    QGuiApplication::setDesktopFileName(u"crvn-halvorin"_s);
+
+    m_instance = std::make_unique<SingleInstance>();
+    if (!m_instance->isFirst()) {
+        m_instance->callFirst(qgetenv("XDG_ACTIVATION_TOKEN"));
+        m_status = 0;
+        return;
+    }
+    QObject::connect(m_instance.get(), &SingleInstance::called, m_application.get(),
+        [this](const QByteArray &token) { bringToFront(token); });
+
+    // The engine reads the window's types in a thread of its own; meanwhile the typeface is looked
+    // up, which takes as long. Nothing of ours waits in the event loop yet.
+    m_engine = std::make_unique<QQmlEngine>();
+    m_engine->addImportPath(u":/qt/qml"_s);
+    QObject::connect(m_engine.get(), &QQmlEngine::quit, m_application.get(),
+        &QCoreApplication::quit, Qt::QueuedConnection);
+    QQmlComponent component(m_engine.get(),
+        QUrl(u"qrc:/qt/qml/Halvorin/Window/HalvorinWindow.qml"_s), QQmlComponent::Asynchronous);
+    SceneGraph::choose();
+    QGuiApplication::setFont(Fonts::rounded(12.5));
+    while (component.isLoading())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+
+    // Only now: that loop would swallow the request, and until here there is nothing to bring home.
+    quitOnTerminationSignals();
+    HVSetup::configure();
+    HVSetup::openStore();
+
+    m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
+    if (!m_window)
+        qFatal("The window could not be built: %s", qPrintable(component.errorString()));
+    m_window->show();
+}
+
+HalvorinApp::~HalvorinApp()
+{
+    // Screens read the store while they are taken down; it closes after them.
+    m_window.reset();
+    m_engine.reset();
+    UserStore::setShared(nullptr);
+}
+
+int HalvorinApp::run()
+{
+    return m_status ? *m_status : QGuiApplication::exec();
+}
+
+void HalvorinApp::bringToFront(const QByteArray &activationToken)
+{
+    QQuickWindow *camera = m_window.get();
+    if (!camera)
+        return;
+    // The platform takes the token of the launch that asks from where a launch would leave it.
+    if (!activationToken.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", activationToken);
+    // Not show(), which makes a maximized window and one on the full screen small.
+    camera->setWindowStates(camera->windowStates() & ~Qt::WindowMinimized);
+    camera->setVisible(true);
+    camera->raise();
+    camera->requestActivate();
+}

@@ -1,0 +1,46 @@
+// The program from its first line to its last.
+#pragma once
+
+#include <QGuiApplication>
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
+
+class SingleInstance;
+
+/// The application. Its construction decides, from the arguments alone and in a fixed order, what
+/// this process is for: a mode that serves no user (pictures), an answer on standard output
+/// ("--help", "--version"), or the camera. Arguments that nobody knows are passed over.
+///
+/// The camera belongs to one process at a time. A second launch brings the first one's window to
+/// the front and ends, silently and with status 0, before it has touched the user's file.
+class HalvorinApp
+{
+public:
+    /// What must stand in the environment before any Qt object exists.
+    static void prepareEnvironment();
+
+    HalvorinApp(int &argc, char **argv);
+    ~HalvorinApp();
+    Q_DISABLE_COPY_MOVE(HalvorinApp)
+
+    /// Runs until the window is closed, or not at all if the construction has settled everything.
+    /// Returns the exit status.
+    [[nodiscard]] int run();
+
+    /// The main window; nullptr if this process shows none.
+    [[nodiscard]] QQuickWindow *window() const { return m_window.get(); }
+
+private:
+    void start(int &argc, char **argv);
+    void bringToFront(const QByteArray &activationToken);
+
+    std::optional<int> m_status; ///< Set once there is nothing left to do.
+    std::unique_ptr<QGuiApplication> m_application;
+    std::unique_ptr<SingleInstance> m_instance;
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
+};

@@ -1,0 +1,44 @@
+#include "shell/launch/terminationsignals.h"
+
+#include <QCoreApplication>
+#include <QSocketNotifier>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace {
+
+// A signal handler may do next to nothing; it writes a byte, and the event loop reads it.
+int g_sockets[2];
+
+void handleSignal(int)
+{
+    const char byte = 1;
+    [[maybe_unused]] const auto written = ::write(g_sockets[0], &byte, 1);
+}
+
+} // namespace
+
+void quitOnTerminationSignals()
+{
+    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, g_sockets) != 0)
+        return;
+    auto *notifier
+        = new QSocketNotifier(g_sockets[1], QSocketNotifier::Read, QCoreApplication::instance());
+    QObject::connect(notifier, &QSocketNotifier::activated, notifier, [notifier] {
+        notifier->setEnabled(false);
+        QCoreApplication::quit();
+    });
+
+    struct sigaction action = {};
+    action.sa_handler = handleSignal;
+    sigemptyset(&action.sa_mask);
+    action.sa_flags = SA_RESTART;
+    for (const int signal : { SIGTERM, SIGINT, SIGHUP })
+        ::sigaction(signal, &action, nullptr);
+}
+#else
+void quitOnTerminationSignals() { }
+#endif

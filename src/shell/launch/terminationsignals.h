@@ -1,0 +1,6 @@
+#pragma once
+
+/// Lets SIGTERM, SIGINT and SIGHUP end the program as closing its window does: the event loop
+/// ends, the store is closed. Without effect on platforms that have no such signals. Call once,
+/// with a QCoreApplication.
+void quitOnTerminationSignals();

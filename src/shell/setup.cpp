@@ -1,0 +1,72 @@
+#include "shell/setup.h"
+
+#include "camera/hvcolors.h"
+#include "content/contentlibrary.h"
+#include "kit/kit.h"
+#include "shell/appmodel.h"
+#include "shell/info.h"
+#include "store/hverror.h"
+#include "store/rehearsal.h"
+#include "store/userstore.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// AppModel must not change while the scene is being built.
+void tellLater(const QString &message)
+{
+    QTimer::singleShot(
+        0, &AppModel::shared(), [message] { AppModel::shared().setMessage(message); });
+}
+
+QUrl stopgapURL()
+{
+    const QString seconds = QString::number(QDateTime::currentSecsSinceEpoch());
+    return QUrl::fromLocalFile(
+        HVInfo::dataFolder() + "/My Progress (opened "_L1 + seconds + ").sqlite"_L1);
+}
+
+void openProgress()
+{
+    const QUrl url = HVInfo::databaseURL();
+    try {
+        UserStore::setShared(openProgressFile(url));
+        return;
+    } catch (const HVError &error) {
+        tellLater("Your progress file could not be opened ("_L1 + error.description()
+            + "). It was left untouched at "_L1 + QDir::toNativeSeparators(url.toLocalFile())
+            + ". A new, empty progress file was started instead."_L1);
+    }
+    try {
+        UserStore::setShared(openProgressFile(stopgapURL()));
+    } catch (const HVError &) {
+        // One message is enough: without a store the program still teaches, it only forgets.
+        UserStore::setShared(nullptr);
+    }
+}
+
+} // namespace
+
+namespace HVSetup {
+
+void configure()
+{
+    CRVNThemes::setDefaultID(HVThemes::brassID);
+    CRVNKit::install({ .name = HVInfo::appName, .extraThemes = HVThemes::extras() });
+}
+
+void openStore()
+{
+    openProgress();
+
+    const QStringList errors = ContentLibrary::shared().loadErrors();
+    if (!errors.isEmpty())
+        tellLater("Some course files could not be read: "_L1 + errors.join("; "_L1));
+}
+
+} // namespace HVSetup

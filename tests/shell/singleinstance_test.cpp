@@ -1,0 +1,376 @@
+#include "shell/launch/singleinstance.h"
+
+#include "store/storetesting.h"
+#include "support/environment.h"
+#include "support/ordinaryuser.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QLockFile>
+#include <QProcess>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using namespace StoreTesting;
+
+namespace {
+
+// A process or a call that hasn't got there after so long hangs.
+constexpr int kPatience = 60000; // ms
+
+// Another process; ended with the object, without any chance to tidy up.
+class Other
+{
+public:
+    explicit Other(const QStringList &arguments)
+    {
+        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        m_process.start(QStringLiteral(HV_TEST_CHILD), arguments);
+    }
+    ~Other() { kill(); }
+    Q_DISABLE_COPY_MOVE(Other)
+
+    // "first" or "later".
+    [[nodiscard]] QString rank()
+    {
+        while (!m_process.canReadLine() && m_process.waitForReadyRead(kPatience)) { }
+        return QString::fromUtf8(m_process.readLine()).trimmed();
+    }
+
+    [[nodiscard]] bool endsWithin(int milliseconds)
+    {
+        return m_process.waitForFinished(milliseconds);
+    }
+
+    void kill()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+
+private:
+    QProcess m_process;
+};
+
+// What an instance is called with.
+class Calls
+{
+public:
+    explicit Calls(const SingleInstance &instance)
+    {
+        QObject::connect(&instance, &SingleInstance::called, &m_receiver,
+            [this](const QByteArray &token) { m_tokens.append(token); });
+    }
+
+    // The tokens so far, as soon as there are so many.
+    [[nodiscard]] QByteArrayList waitFor(qsizetype count)
+    {
+        QTimer patience; // also wakes the loop below
+        patience.setSingleShot(true);
+        patience.start(kPatience);
+        while (m_tokens.size() < count && patience.isActive())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        return m_tokens;
+    }
+
+private:
+    QByteArrayList m_tokens;
+    QObject m_receiver; // last, so that no call reaches a list that has gone
+};
+
+class SingleInstanceTest : public ::testing::Test
+{
+protected:
+    [[nodiscard]] QString lockFile() const { return folder.path(u"crvn-halvorin.lock"_s); }
+    [[nodiscard]] QString socketFile() const { return folder.path(u"crvn-halvorin.socket"_s); }
+
+    Folder folder;
+};
+
+} // namespace
+
+// Who is the first
+
+TEST_F(SingleInstanceTest, TheFirstInAFolderIsFirst)
+{
+    const SingleInstance instance(folder.path());
+    EXPECT_TRUE(instance.isFirst());
+}
+
+TEST_F(SingleInstanceTest, TheSecondInAFolderIsNot)
+{
+    const SingleInstance first(folder.path());
+    const SingleInstance second(folder.path());
+    EXPECT_FALSE(second.isFirst());
+    EXPECT_TRUE(first.isFirst());
+}
+
+TEST_F(SingleInstanceTest, AnotherProcessThatIsThereAlreadyIsFirst)
+{
+    Other other({ u"hold"_s, folder.path() });
+    ASSERT_EQ(other.rank(), u"first"_s);
+    EXPECT_FALSE(SingleInstance(folder.path()).isFirst());
+}
+
+TEST_F(SingleInstanceTest, AnotherProcessThatComesLaterIsNot)
+{
+    const SingleInstance first(folder.path());
+    Other other({ u"hold"_s, folder.path() });
+    EXPECT_EQ(other.rank(), u"later"_s);
+}
+
+TEST_F(SingleInstanceTest, EachFolderHasAFirstOfItsOwn)
+{
+    const Folder another;
+    const SingleInstance here(folder.path());
+    const SingleInstance there(another.path());
+    EXPECT_TRUE(here.isFirst());
+    EXPECT_TRUE(there.isFirst());
+}
+
+TEST_F(SingleInstanceTest, UsesTheRuntimeFolderOfTheUser)
+{
+    const EnvironmentVariable runtime("XDG_RUNTIME_DIR", folder.path());
+    const SingleInstance first;
+    EXPECT_TRUE(first.isFirst());
+    EXPECT_FALSE(SingleInstance(folder.path()).isFirst());
+}
+
+TEST_F(SingleInstanceTest, TheNextIsFirstOnceTheFirstHasEnded)
+{
+    {
+        const SingleInstance first(folder.path());
+        ASSERT_TRUE(first.isFirst());
+    }
+    EXPECT_TRUE(SingleInstance(folder.path()).isFirst());
+}
+
+TEST_F(SingleInstanceTest, OneThatWasNotFirstLeavesTheFirstItsPlace)
+{
+    const SingleInstance first(folder.path());
+    {
+        const SingleInstance second(folder.path());
+        ASSERT_FALSE(second.isFirst());
+    }
+    EXPECT_FALSE(SingleInstance(folder.path()).isFirst());
+}
+
+TEST_F(SingleInstanceTest, LeavesNothingInTheFolder)
+{
+    {
+        const SingleInstance first(folder.path());
+        const SingleInstance second(folder.path());
+        EXPECT_NE(fingerprint(folder.path()), Fingerprint());
+    }
+    EXPECT_EQ(fingerprint(folder.path()), Fingerprint());
+}
+
+// What keeps nobody out
+
+TEST_F(SingleInstanceTest, TheLockOfAKilledProcessIsNoHindrance)
+{
+    // given
+    Other other({ u"hold"_s, folder.path() });
+    ASSERT_EQ(other.rank(), u"first"_s);
+    other.kill();
+    ASSERT_TRUE(QFileInfo::exists(lockFile()));
+    ASSERT_TRUE(QFileInfo::exists(socketFile()));
+    // then
+    EXPECT_TRUE(SingleInstance(folder.path()).isFirst());
+}
+
+TEST_F(SingleInstanceTest, AnInstanceThatFollowsAKilledOneCanBeCalled)
+{
+    // given
+    Other other({ u"hold"_s, folder.path() });
+    ASSERT_EQ(other.rank(), u"first"_s);
+    other.kill();
+    const SingleInstance first(folder.path());
+    Calls calls(first);
+    // when
+    SingleInstance(folder.path()).callFirst("token");
+    // then
+    EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ "token" }));
+}
+
+TEST_F(SingleInstanceTest, AnEmptyLockOfAProcessKilledWhileItMadeItIsNoHindrance)
+{
+    writeFile(lockFile(), "");
+    EXPECT_TRUE(SingleInstance(folder.path()).isFirst());
+}
+
+TEST_F(SingleInstanceTest, AMissingFolderKeepsNobodyOut)
+{
+    EXPECT_TRUE(SingleInstance(folder.path(u"missing"_s)).isFirst());
+    EXPECT_FALSE(QFileInfo::exists(folder.path(u"missing"_s)));
+}
+
+TEST_F(SingleInstanceTest, AFileInThePlaceOfTheFolderKeepsNobodyOut)
+{
+    writeFile(folder.path(u"file"_s), "");
+    EXPECT_TRUE(SingleInstance(folder.path(u"file"_s)).isFirst());
+}
+
+TEST_F(SingleInstanceTest, AFolderThatCanNotBeWrittenToKeepsNobodyOut)
+{
+    // given
+    constexpr auto readOnly = QFile::Permissions(0x5555);
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), readOnly));
+    const OrdinaryUser user;
+    // then
+    const SingleInstance one(folder.path());
+    const SingleInstance other(folder.path());
+    EXPECT_TRUE(one.isFirst());
+    EXPECT_TRUE(other.isFirst());
+    EXPECT_EQ(fingerprint(folder.path()), Fingerprint());
+}
+
+TEST_F(SingleInstanceTest, TheLockOfAKilledProcessIsNoHindranceWhereItCanNotBeTakenAway)
+{
+    // given
+    Other other({ u"hold"_s, folder.path() });
+    ASSERT_EQ(other.rank(), u"first"_s);
+    other.kill();
+    constexpr auto readOnly = QFile::Permissions(0x5555);
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), readOnly));
+    bool isFirst = false;
+    // when
+    {
+        const OrdinaryUser user;
+        isFirst = SingleInstance(folder.path()).isFirst();
+    }
+    // then
+    EXPECT_TRUE(isFirst);
+    QFile::setPermissions(folder.path(), QFile::Permissions(0x7700)); // to be cleared away
+}
+
+// Calling the first
+
+TEST_F(SingleInstanceTest, ACallReachesTheFirstWithItsToken)
+{
+    const SingleInstance first(folder.path());
+    Calls calls(first);
+    SingleInstance(folder.path()).callFirst("kde-1234_TIME5678");
+    EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ "kde-1234_TIME5678" }));
+}
+
+TEST_F(SingleInstanceTest, ACallWithAnEmptyTokenReachesTheFirst)
+{
+    const SingleInstance first(folder.path());
+    Calls calls(first);
+    SingleInstance(folder.path()).callFirst({});
+    EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ QByteArray() }));
+}
+
+TEST_F(SingleInstanceTest, ACallFromAnotherProcessReachesTheFirst)
+{
+    const SingleInstance first(folder.path());
+    Calls calls(first);
+    Other other({ u"call"_s, folder.path(), u"token"_s });
+    EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ "token" }));
+    EXPECT_EQ(other.rank(), u"later"_s);
+}
+
+TEST_F(SingleInstanceTest, ALongTokenArrivesWhole)
+{
+    const QByteArray token(4096, 't');
+    const SingleInstance first(folder.path());
+    Calls calls(first);
+    SingleInstance(folder.path()).callFirst(token);
+    EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ token }));
+}
+
+TEST_F(SingleInstanceTest, EveryCallReachesTheFirst)
+{
+    const SingleInstance first(folder.path());
+    Calls calls(first);
+    SingleInstance second(folder.path());
+    second.callFirst("one");
+    second.callFirst("two");
+    SingleInstance(folder.path()).callFirst("three");
+    QByteArrayList tokens = calls.waitFor(3);
+    std::sort(tokens.begin(), tokens.end());
+    EXPECT_EQ(tokens, (QByteArrayList{ "one", "three", "two" }));
+}
+
+TEST_F(SingleInstanceTest, ACallerThatKeepsTheLineDoesNotKeepOthersFromCalling)
+{
+    // given
+    const SingleInstance first(folder.path());
+    Calls calls(first);
+    QLocalSocket silent;
+    silent.connectToServer(socketFile());
+    ASSERT_TRUE(silent.waitForConnected(kPatience));
+    // when
+    SingleInstance(folder.path()).callFirst("token");
+    // then
+    EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ "token" }));
+}
+
+TEST_F(SingleInstanceTest, ItsOwnEndIsNoCall)
+{
+    // given
+    int calls = 0;
+    auto first = std::make_unique<SingleInstance>(folder.path());
+    QObject receiver;
+    QObject::connect(first.get(), &SingleInstance::called, &receiver, [&] { ++calls; });
+    QLocalSocket silent;
+    silent.connectToServer(socketFile());
+    ASSERT_TRUE(silent.waitForConnected(kPatience));
+    // and: a call behind it, so that the silent one has been taken for certain
+    SingleInstance(folder.path()).callFirst({});
+    while (calls == 0)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    // when
+    first.reset();
+    // then
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(SingleInstanceTest, ACallWaitsForAFirstThatDoesNotListenYet)
+{
+    // given: a first that has its lock and not its socket, and a caller that doesn't give up
+    QLockFile lock(lockFile());
+    ASSERT_TRUE(lock.tryLock());
+    Other other({ u"call"_s, folder.path(), u"token"_s });
+    ASSERT_EQ(other.rank(), u"later"_s);
+    ASSERT_FALSE(other.endsWithin(50));
+    // when
+    QLocalServer server;
+    ASSERT_TRUE(server.listen(socketFile()));
+    // then
+    ASSERT_TRUE(server.waitForNewConnection(kPatience));
+    QLocalSocket *caller = server.nextPendingConnection();
+    while (caller->state() == QLocalSocket::ConnectedState && caller->waitForReadyRead(kPatience))
+        continue;
+    EXPECT_EQ(caller->readAll(), "token");
+}
+
+TEST_F(SingleInstanceTest, ACallThatNobodyTakesEnds)
+{
+    // given: a first that has its lock and never a socket
+    QLockFile lock(lockFile());
+    ASSERT_TRUE(lock.tryLock());
+    // then: it gives up, for the user is waiting
+    SingleInstance second(folder.path());
+    ASSERT_FALSE(second.isFirst());
+    second.callFirst("token");
+    EXPECT_FALSE(QFileInfo::exists(socketFile()));
+}
+
+TEST_F(SingleInstanceTest, NobodyButTheUserCanCall)
+{
+    const SingleInstance first(folder.path());
+    const QFile::Permissions others
+        = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+    EXPECT_FALSE(QFile::permissions(socketFile()) & others);
+}
