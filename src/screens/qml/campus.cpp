@@ -5,6 +5,8 @@
 #include "content/contentlibrary.h"
 #include "shell/appmodel.h"
 
+#include <algorithm>
+
 Campus::Campus(QObject *parent)
     : QAbstractListModel(parent)
     , m_finished(finishedLessons())

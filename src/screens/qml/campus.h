@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QSet>
 #include <QtQml/qqml.h>
 
 /// The Campus screen's figures and texts: progress over the whole course, the lesson to go on
