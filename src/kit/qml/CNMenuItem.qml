@@ -20,7 +20,7 @@ T.MenuItem {
             name: "checkmark"
             pointSize: 10
             weight: Font.Bold
-            ink: root.highlighted ? "white" : CNUI.theme.text
+            ink: CNUI.theme.text
         }
         HvText {
             id: title
@@ -29,7 +29,7 @@ T.MenuItem {
             text: CNUI.withoutMnemonic(root.text)
             decorative: true
             font: CNUI.cnFont(12)
-            color: root.highlighted ? "white" : CNUI.theme.text
+            color: CNUI.theme.text
         }
         HvText {
             id: keyHint
@@ -39,7 +39,7 @@ T.MenuItem {
             text: root.subMenu ? "" : root.keys
             decorative: true
             font: CNUI.cnFont(11)
-            color: root.highlighted ? "white" : CNUI.theme.dim
+            color: CNUI.theme.dim
         }
     }
     arrow: Symbol {
@@ -49,12 +49,13 @@ T.MenuItem {
         name: "chevron.right"
         pointSize: 9
         weight: Font.Bold
-        ink: root.highlighted ? "white" : CNUI.theme.dim
+        ink: CNUI.theme.dim
     }
     indicator: null
     background: Rectangle {
         visible: root.highlighted
         radius: 6
-        color: CNUI.theme.accent
+        // Not the accent: white on it reads poorly in the lighter themes.
+        color: Qt.alpha(CNUI.theme.text, 0.16)
     }
 }
