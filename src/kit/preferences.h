@@ -34,6 +34,16 @@ public:
     /// Lets go of the file: all values so far are forgotten, later ones live in this process only.
     void keepInMemory();
 
+    /// Calls `action` at each change of the value under `wanted`, for as long as `owner` lives.
+    template <typename Action>
+    void follow(const QString &wanted, const QObject *owner, const Action &action)
+    {
+        connect(this, &Preferences::changed, owner, [wanted, action](const QString &key) {
+            if (key == wanted)
+                action();
+        });
+    }
+
 Q_SIGNALS:
     void changed(const QString &key);
 

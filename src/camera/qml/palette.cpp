@@ -5,9 +5,7 @@
 CameraPalette::CameraPalette(QObject *parent)
     : QObject(parent)
 {
-    connect(&Preferences::shared(), &Preferences::changed, this, [this](const QString &key) {
-        if (key != CRVNThemes::key)
-            return;
+    Preferences::shared().follow(CRVNThemes::key, this, [this] {
         m_current = HVColors();
         Q_EMIT currentChanged();
     });

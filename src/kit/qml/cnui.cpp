@@ -19,9 +19,7 @@ CNUI::CNUI(QObject *parent)
     : QObject(parent)
     , m_theme(CRVNKitHost::theme())
 {
-    connect(&Preferences::shared(), &Preferences::changed, this, [this](const QString &key) {
-        if (key != CRVNThemes::key)
-            return;
+    Preferences::shared().follow(CRVNThemes::key, this, [this] {
         m_theme = CRVNKitHost::theme();
         Q_EMIT themeChanged();
     });
@@ -72,10 +70,8 @@ ThemeList::ThemeList(QObject *parent)
     : QAbstractListModel(parent)
     , m_themes(CRVNThemes::all())
 {
-    connect(&Preferences::shared(), &Preferences::changed, this, [this](const QString &key) {
-        if (key == CRVNThemes::key)
-            Q_EMIT dataChanged(index(0), index(rowCount() - 1), { CheckedRole });
-    });
+    Preferences::shared().follow(CRVNThemes::key, this,
+        [this] { Q_EMIT dataChanged(index(0), index(rowCount() - 1), { CheckedRole }); });
 }
 
 int ThemeList::rowCount(const QModelIndex &parent) const
@@ -113,10 +109,7 @@ void ThemeList::choose(const QString &themeID)
 ZoomControl::ZoomControl(QObject *parent)
     : QObject(parent)
 {
-    connect(&Preferences::shared(), &Preferences::changed, this, [this](const QString &key) {
-        if (key == CNZoom::key)
-            Q_EMIT zoomChanged();
-    });
+    Preferences::shared().follow(CNZoom::key, this, [this] { Q_EMIT zoomChanged(); });
 }
 
 qreal ZoomControl::zoom() const

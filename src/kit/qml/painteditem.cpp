@@ -9,10 +9,7 @@ PaintedItem::PaintedItem(QQuickItem *parent)
     : QQuickPaintedItem(parent)
 {
     setAntialiasing(true);
-    connect(&Preferences::shared(), &Preferences::changed, this, [this](const QString &key) {
-        if (key == CNZoom::key)
-            fitTexture();
-    });
+    Preferences::shared().follow(CNZoom::key, this, [this] { fitTexture(); });
 }
 
 double PaintedItem::renderScale() const

@@ -12,10 +12,7 @@ SoftShadow::SoftShadow(QQuickItem *parent)
     : QQuickItem(parent)
 {
     setFlag(ItemHasContents);
-    connect(&Preferences::shared(), &Preferences::changed, this, [this](const QString &key) {
-        if (key == CNZoom::key)
-            update();
-    });
+    Preferences::shared().follow(CNZoom::key, this, [this] { update(); });
 }
 
 void SoftShadow::setColor(const QColor &color)
