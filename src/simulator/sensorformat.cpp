@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -18,9 +19,49 @@ std::span<const SensorFormat> SensorFormat::all()
     return formats;
 }
 
+double SensorFormat::diagonal() const
+{
+    return std::sqrt(width * width + height * height);
+}
+
+double SensorFormat::coc() const
+{
+    return diagonal() / 1500;
+}
+
+double SensorFormat::crop() const
+{
+    return 43.2666 / diagonal();
+}
+
 const SensorFormat &SensorFormat::fullFrame()
 {
-    return all().front();
+    return all()[0];
+}
+
+const SensorFormat &SensorFormat::apsc()
+{
+    return all()[1];
+}
+
+const SensorFormat &SensorFormat::mft()
+{
+    return all()[2];
+}
+
+const SensorFormat &SensorFormat::oneInch()
+{
+    return all()[3];
+}
+
+const SensorFormat &SensorFormat::mf4433()
+{
+    return all()[4];
+}
+
+const SensorFormat &SensorFormat::film66()
+{
+    return all()[5];
 }
 
 const SensorFormat &SensorFormat::named(QStringView id)

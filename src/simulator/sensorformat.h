@@ -13,7 +13,19 @@ struct SensorFormat {
     double width = 36;  ///< mm
     double height = 24; ///< mm
 
+    [[nodiscard]] double diagonal() const; ///< mm
+    [[nodiscard]] double coc() const;      ///< circle of confusion, mm: diagonal / 1500
+
+    /// How much narrower the view is than on full frame: 43.2666 / diagonal. The constant is the
+    /// rounded diagonal of full frame, whose own factor is thus 0.99999965.
+    [[nodiscard]] double crop() const;
+
     [[nodiscard]] static const SensorFormat &fullFrame();
+    [[nodiscard]] static const SensorFormat &apsc();
+    [[nodiscard]] static const SensorFormat &mft();
+    [[nodiscard]] static const SensorFormat &oneInch();
+    [[nodiscard]] static const SensorFormat &mf4433();
+    [[nodiscard]] static const SensorFormat &film66();
 
     /// All formats in the order in which they are offered.
     [[nodiscard]] static std::span<const SensorFormat> all();

@@ -18,5 +18,18 @@ struct SimSettings {
     double moverDistance = 8.0;       ///< m
     double moverSpeed = 5.0;          ///< m/s
 
+    /// Stops over (+) or under (−) the right exposure.
+    [[nodiscard]] double offset() const;
+
+    /// Blur disc of the background, of the mover, and the mover's streak, as fractions of the
+    /// frame's width: what carries over into a picture of any size.
+    [[nodiscard]] double backgroundBlurFraction() const;
+    [[nodiscard]] double moverDefocusFraction() const;
+    [[nodiscard]] double moverStreakFraction() const;
+
+    /// Standard deviation of the grain where full white is 1: 0.006 at ISO 100, √2 times as much
+    /// with each doubling of the ISO.
+    [[nodiscard]] double noiseSigma() const;
+
     friend bool operator==(const SimSettings &, const SimSettings &) = default;
 };

@@ -128,3 +128,56 @@ TEST(SensorFormat, DiffersWhenAnyOneFieldDoes)
     EXPECT_TRUE(differs(&SensorFormat::width, 35.9));
     EXPECT_TRUE(differs(&SensorFormat::height, 23.9));
 }
+
+TEST(SimSettings, UnderexposeTheFirstSceneByAStop)
+{
+    EXPECT_NEAR(SimSettings().offset(), -0.966, 0.001);
+}
+
+TEST(SimSettings, GiveBlursAsFractionsOfTheFrame)
+{
+    const SimSettings settings;
+    EXPECT_NEAR(settings.backgroundBlurFraction() * 36, 0.1907, 0.0001);
+    EXPECT_NEAR(settings.backgroundBlurFraction() * 720, 3.81, 0.01);
+    EXPECT_NEAR(settings.moverDefocusFraction() * 720, 2.65, 0.01);
+    EXPECT_NEAR(settings.moverStreakFraction() * 720, 5.0, 1e-9);
+}
+
+TEST(SimSettings, HaveNoDefocusForALensThatCannotFocus)
+{
+    SimSettings settings;
+    settings.subjectDistance = 0.05;
+    EXPECT_EQ(settings.backgroundBlurFraction(), 0);
+    EXPECT_EQ(settings.moverDefocusFraction(), 0);
+}
+
+TEST(SimSettings, HaveNoStreakForAMoverThatIsNowhere)
+{
+    SimSettings settings;
+    for (const double distance : { 0.0, -8.0 }) {
+        settings.moverDistance = distance;
+        EXPECT_EQ(settings.moverStreakFraction(), 0);
+    }
+}
+
+TEST(SimSettings, GrowGrainWithTheRootOfTheIso)
+{
+    SimSettings settings;
+    settings.iso = 100;
+    EXPECT_EQ(settings.noiseSigma(), 0.006);
+    settings.iso = 25600;
+    EXPECT_NEAR(settings.noiseSigma(), 0.096, 1e-15);
+}
+
+TEST(SimSettings, KeepExposureAndBlurOnASmallerSensor)
+{
+    SimSettings large;
+    SimSettings small;
+    small.format = SensorFormat::mft();
+    EXPECT_EQ(small.offset(), large.offset());
+    EXPECT_NEAR(small.backgroundBlurFraction() * small.format.width,
+        large.backgroundBlurFraction() * large.format.width, 1e-12);
+    // The same frame takes half the focal length, and the disc shrinks.
+    small.focal = 25;
+    EXPECT_LT(small.backgroundBlurFraction(), 0.6 * large.backgroundBlurFraction());
+}
