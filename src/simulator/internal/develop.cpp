@@ -1,0 +1,234 @@
+#undef HWY_TARGET_INCLUDE
+#define HWY_TARGET_INCLUDE "simulator/internal/develop.cpp"
+#include <hwy/foreach_target.h>
+#include <hwy/highway.h>
+
+#include "simulator/internal/develop.h"
+#include "simulator/internal/grain.h"
+#include "simulator/internal/layer.h"
+#include "simulator/internal/parallel.h"
+#include "simulator/internal/srgb.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstring>
+
+// One row of everything that makes a row of the picture. Pointers begin at column 0.
+#ifndef HV_DEVELOP_ROW
+#define HV_DEVELOP_ROW
+namespace {
+
+struct DevelopRow {
+    int y;
+    int width;
+    std::array<const float *, 3> background;
+    std::array<const float *, 4> mover;   // valid from moverBegin to moverEnd
+    int moverBegin, moverEnd;             // whole vectors
+    std::array<const float *, 4> subject; // the same
+    int subjectBegin, subjectEnd;
+    float gain;
+    double sigma;
+    const GrainField *grain;
+    uchar *out;
+};
+
+} // namespace
+#endif
+
+HWY_BEFORE_NAMESPACE();
+namespace HWY_NAMESPACE {
+namespace {
+
+namespace hn = hwy::HWY_NAMESPACE;
+
+constexpr hn::CappedTag<float, 16> kFloats;
+constexpr hn::RebindToSigned<decltype(kFloats)> kInts;
+constexpr hn::Rebind<std::uint8_t, decltype(kFloats)> kBytes;
+using Floats = hn::Vec<decltype(kFloats)>;
+using Ints = hn::Vec<decltype(kInts)>;
+constexpr int kLanes = static_cast<int>(hn::MaxLanes(kFloats));
+
+// Source over, premultiplied.
+HWY_ATTR HWY_INLINE void layOver(
+    const std::array<const float *, 4> &layer, int x, Floats &red, Floats &green, Floats &blue)
+{
+    const Floats rest = hn::Sub(hn::Set(kFloats, 1.0F), hn::Load(kFloats, layer[3] + x));
+    red = hn::Add(hn::Load(kFloats, layer[0] + x), hn::Mul(rest, red));
+    green = hn::Add(hn::Load(kFloats, layer[1] + x), hn::Mul(rest, green));
+    blue = hn::Add(hn::Load(kFloats, layer[2] + x), hn::Mul(rest, blue));
+}
+
+// Bytes of linear light, by the table of Srgb::ByteTable.
+HWY_ATTR HWY_INLINE Ints encode(Floats linear, const std::int32_t *table)
+{
+    using Table = Srgb::ByteTable;
+    const Floats limited
+        = hn::Min(hn::Max(linear, hn::Set(kFloats, Table::kLeast)), hn::Set(kFloats, 1.0F));
+    const Ints bits = hn::Sub(
+        hn::BitCast(kInts, limited), hn::Set(kInts, static_cast<std::int32_t>(Table::kLeastBits)));
+    const Ints entry = hn::GatherIndex(kInts, table, hn::ShiftRight<Table::kIntervalShift>(bits));
+    const Ints low = hn::And(bits, hn::Set(kInts, (1 << Table::kIntervalShift) - 1));
+    const Ints from = hn::And(entry, hn::Set(kInts, (1 << Table::kByteShift) - 1));
+    // A comparison that holds is −1 in every lane.
+    const Ints more = hn::VecFromMask(kInts, hn::Not(hn::Lt(low, from)));
+    return hn::Sub(hn::ShiftRight<Table::kByteShift>(entry), more);
+}
+
+// How far single precision may be from the exact value of a grainy byte before its rounding: a few
+// units in the last place of the largest number that takes part.
+float uncertainty(double sigma)
+{
+    return static_cast<float>((256 + 5 * sigma) * 1e-6);
+}
+
+struct Grain {
+    const GrainField &field;
+    double sigma;
+    Floats brightness; // sigma
+    Floats color;      // 0.35 · sigma
+    Floats doubt;      // 0.5 − uncertainty
+
+    HWY_ATTR Grain(const GrainField &ofPicture, double strength)
+        : field(ofPicture)
+        , sigma(strength)
+        , brightness(hn::Set(kFloats, static_cast<float>(strength)))
+        , color(hn::Set(kFloats, static_cast<float>(0.35 * strength)))
+        , doubt(hn::Set(kFloats, 0.5F - uncertainty(strength)))
+    { }
+
+    // Adds the grain to one channel's bytes. True if some rounding was too close to call.
+    HWY_ATTR HWY_INLINE bool add(Ints &bytes, Floats ownBrightness, Floats ownColor) const
+    {
+        const Floats value = hn::Add(hn::ConvertTo(kFloats, bytes),
+            hn::Add(hn::Mul(brightness, ownBrightness), hn::Mul(color, ownColor)));
+        const Floats shifted = hn::Add(value, hn::Set(kFloats, 0.5F));
+        const Floats rounded = hn::Floor(shifted);
+        const Floats fromMiddle
+            = hn::Abs(hn::Sub(hn::Sub(shifted, rounded), hn::Set(kFloats, 0.5F)));
+        const Floats limited
+            = hn::Min(hn::Max(rounded, hn::Zero(kFloats)), hn::Set(kFloats, 255.0F));
+        bytes = hn::ConvertTo(kInts, limited);
+        return !hn::AllFalse(kFloats, hn::Gt(fromMiddle, doubt));
+    }
+};
+
+// Recomputes some bytes of one channel exactly.
+HWY_ATTR HWY_NOINLINE Ints addExactly(
+    const Grain &grain, Ints before, int channel, int x, int y, int width)
+{
+    HWY_ALIGN std::int32_t bytes[kLanes];
+    hn::Store(before, kInts, bytes);
+    for (int lane = 0; lane < kLanes && x + lane < width; ++lane) {
+        const auto values = grain.field.exact(x + lane, y);
+        bytes[lane] = withGrain(
+            bytes[lane], values[0], values[static_cast<std::size_t>(channel) + 1], grain.sigma);
+    }
+    return hn::Load(kInts, bytes);
+}
+
+} // namespace
+
+HWY_ATTR void developRow(const DevelopRow &row)
+{
+    const std::int32_t *table = Srgb::ByteTable::instance().entries();
+    const Floats gain = hn::Set(kFloats, row.gain);
+    const bool grainy = row.sigma > 0.01;
+    const Grain grain(*row.grain, row.sigma);
+    std::array<const float *, GrainField::kPlanes> noise;
+    for (int plane = 0; plane < GrainField::kPlanes; ++plane)
+        noise[static_cast<std::size_t>(plane)] = row.grain->row(plane, row.y);
+    const auto opaque = hn::Set(kBytes, 255);
+
+    for (int x = 0; x < row.width; x += kLanes) {
+        Floats red = hn::Load(kFloats, row.background[0] + x);
+        Floats green = hn::Load(kFloats, row.background[1] + x);
+        Floats blue = hn::Load(kFloats, row.background[2] + x);
+        if (x >= row.moverBegin && x < row.moverEnd)
+            layOver(row.mover, x, red, green, blue);
+        if (x >= row.subjectBegin && x < row.subjectEnd)
+            layOver(row.subject, x, red, green, blue);
+
+        Ints bytes[3] = { encode(hn::Mul(red, gain), table), encode(hn::Mul(green, gain), table),
+            encode(hn::Mul(blue, gain), table) };
+        if (grainy) {
+            const Floats brightness = hn::Load(kFloats, noise[0] + x);
+            for (int channel = 0; channel < 3; ++channel) {
+                const Ints before = bytes[channel];
+                const Floats color
+                    = hn::Load(kFloats, noise[static_cast<std::size_t>(channel) + 1] + x);
+                if (grain.add(bytes[channel], brightness, color))
+                    bytes[channel] = addExactly(grain, before, channel, x, row.y, row.width);
+            }
+        }
+
+        const auto redBytes = hn::DemoteTo(kBytes, bytes[0]);
+        const auto greenBytes = hn::DemoteTo(kBytes, bytes[1]);
+        const auto blueBytes = hn::DemoteTo(kBytes, bytes[2]);
+        if (x + kLanes <= row.width) {
+            hn::StoreInterleaved4(
+                redBytes, greenBytes, blueBytes, opaque, kBytes, row.out + 4 * std::ptrdiff_t{ x });
+        } else {
+            HWY_ALIGN uchar rest[4 * kLanes];
+            hn::StoreInterleaved4(redBytes, greenBytes, blueBytes, opaque, kBytes, rest);
+            std::memcpy(row.out + 4 * std::ptrdiff_t{ x }, rest,
+                static_cast<std::size_t>(4 * (row.width - x)));
+        }
+    }
+}
+
+} // namespace HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#if HWY_ONCE
+
+HWY_EXPORT(developRow);
+
+void develop(const Exposed &layers, double sigma, const GrainField &grain, QImage &picture,
+    const Parallel &parallel)
+{
+    constexpr int kWidestVector = 16;
+    constexpr int kRowsAtOnce = 16;
+    const Layer &subject = *layers.subject;
+    const QRect subjectArea = subject.bounds();
+    const auto vectorsFrom = [](int x) { return x / kWidestVector * kWidestVector; };
+    const auto vectorsTo
+        = [](int x) { return (x + kWidestVector) / kWidestVector * kWidestVector; };
+    uchar *bits = picture.bits(); // here, where it may detach, and not in the threads
+    const std::ptrdiff_t bytesPerLine = picture.bytesPerLine();
+    const int bands = (picture.height() + kRowsAtOnce - 1) / kRowsAtOnce;
+    parallel.run(bands, [&](int band) {
+        const int end = std::min((band + 1) * kRowsAtOnce, picture.height());
+        for (int y = band * kRowsAtOnce; y < end; ++y) {
+            DevelopRow row{};
+            row.y = y;
+            row.width = picture.width();
+            row.gain = std::isnan(layers.gain) ? 1.0F : layers.gain;
+            row.sigma = sigma;
+            row.grain = &grain;
+            row.out = bits + y * bytesPerLine;
+            for (int channel = 0; channel < 3; ++channel) {
+                row.background[static_cast<std::size_t>(channel)]
+                    = layers.background.row(channel, y);
+            }
+            const QRect &mover = layers.moverArea;
+            if (!mover.isEmpty() && y >= mover.top() && y <= mover.bottom()) {
+                row.moverBegin = mover.left();
+                row.moverEnd = vectorsTo(mover.right());
+                for (int channel = 0; channel < 4; ++channel) {
+                    row.mover[static_cast<std::size_t>(channel)]
+                        = layers.mover.row(channel, y) - layers.mover.left;
+                }
+            }
+            if (subject.litRow(3, y) != nullptr) {
+                row.subjectBegin = vectorsFrom(subjectArea.left());
+                row.subjectEnd = vectorsTo(subjectArea.right());
+                for (int channel = 0; channel < 4; ++channel)
+                    row.subject[static_cast<std::size_t>(channel)] = subject.row(channel, y);
+            }
+            HWY_DYNAMIC_DISPATCH(developRow)(row);
+        }
+    });
+}
+
+#endif

@@ -1,0 +1,27 @@
+// Mean along a horizontal line: how an open shutter draws what moves across the frame.
+#pragma once
+
+#include "simulator/internal/canvas.h"
+
+#include <QRect>
+
+class Parallel;
+
+/// Part of a picture on four planes; transparent outside, but for the frame's own edge pixels,
+/// which repeat.
+struct StreakSource {
+    static constexpr int kChannels = 4;
+
+    Canvas canvas;
+    QRect area; ///< where the canvas holds pixels; may pass the frame's right edge
+    int frameWidth;
+};
+
+/// Writes to `out` for each pixel of the rows of `source.area`, from out.left to `right`, the mean
+/// over the line that reaches `halfLength` pixels to each side of it; the pixels at its ends count
+/// as far as the line covers them. Up to half a pixel nothing changes. Sums are of double
+/// precision, and the work doesn't grow with the length.
+///
+/// @pre halfLength > 0.
+void streak(const StreakSource &source, double halfLength, const Canvas &out, int right,
+    const Parallel &parallel);
