@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <type_traits>
 
 HWY_BEFORE_NAMESPACE();
 namespace HWY_NAMESPACE {
@@ -72,6 +73,15 @@ HWY_ATTR HWY_INLINE void sumColumns(
     }
 }
 
+// Whether any disc that reaches R pixels, whose radius is R + 0.5 at most, touches a pixel. (The
+// corner next to the center lies half a pixel from the pixel's own center each way.)
+template <int R>
+constexpr bool reaches(int dx, int dy)
+{
+    return (2 * dx - 1) * (2 * dx - 1) + (2 * dy - 1) * (2 * dy - 1) < (2 * R + 1) * (2 * R + 1)
+        || dx == 0 || dy == 0;
+}
+
 // Discs that reach R pixels. First the weighted sums down each column, for which rows are read in
 // whole vectors, then sums of neighboring columns.
 template <int R>
@@ -100,8 +110,10 @@ HWY_ATTR void sumDirectly(const DiscKernel &kernel, const Rows &rows, int top, i
             }
             for (int dx = 0; dx <= R; ++dx) {
                 Floats sum = hn::Mul(hn::Set(kFloats, weights[dx][0]), folded[0]);
-                for (int dy = 1; dy <= R; ++dy)
-                    sum = hn::Add(sum, hn::Mul(hn::Set(kFloats, weights[dx][dy]), folded[dy]));
+                for (int dy = 1; dy <= R; ++dy) {
+                    if (reaches<R>(dx, dy))
+                        sum = hn::Add(sum, hn::Mul(hn::Set(kFloats, weights[dx][dy]), folded[dy]));
+                }
                 hn::Store(sum, kFloats, columns + dx * stride + x);
             }
         }
@@ -268,14 +280,25 @@ HWY_ATTR void blurRows(const DiscBlur &disc, const Layer &layer, int channel, co
     const int width = (area.width() + 15) / 16 * 16;
     const Rows rows(layer, channel, area.left(), width);
     float *out = canvas.row(channel, top);
+    const auto sum = [&]<int R>(std::integral_constant<int, R>) {
+        sumDirectly<R>(disc.kernel(), rows, top, bottom, width, out, canvas.stride);
+    };
     switch (disc.reach()) {
     case 0:
     case 1:
-        return sumDirectly<1>(disc.kernel(), rows, top, bottom, width, out, canvas.stride);
+        return sum(std::integral_constant<int, 1>());
     case 2:
-        return sumDirectly<2>(disc.kernel(), rows, top, bottom, width, out, canvas.stride);
+        return sum(std::integral_constant<int, 2>());
     case 3:
-        return sumDirectly<3>(disc.kernel(), rows, top, bottom, width, out, canvas.stride);
+        return sum(std::integral_constant<int, 3>());
+    case 4:
+        return sum(std::integral_constant<int, 4>());
+    case 5:
+        return sum(std::integral_constant<int, 5>());
+    case 6:
+        return sum(std::integral_constant<int, 6>());
+    case 7:
+        return sum(std::integral_constant<int, 7>());
     default:
         break;
     }

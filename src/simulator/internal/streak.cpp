@@ -45,7 +45,7 @@ namespace hn = hwy::HWY_NAMESPACE;
 // Means over the line at each of `count` pixels. `values` begins where the line at the first pixel
 // does, and `sums[i]` is the sum of the first i of them.
 HWY_ATTR void meansOverLine(
-    const Line &line, const double *values, const double *sums, float *out, int count)
+    const Line &line, const float *values, const double *sums, float *out, int count)
 {
     constexpr hn::CappedTag<double, kWidestVector> doubles;
     constexpr hn::Rebind<float, decltype(doubles)> floats;
@@ -55,8 +55,8 @@ HWY_ATTR void meansOverLine(
     for (int x = 0; x < count; x += static_cast<int>(hn::MaxLanes(doubles))) {
         const auto inner
             = hn::Sub(hn::LoadU(doubles, sums + x + far), hn::LoadU(doubles, sums + x + 1));
-        const auto ends
-            = hn::Add(hn::LoadU(doubles, values + x), hn::LoadU(doubles, values + x + far));
+        const auto ends = hn::Add(hn::PromoteTo(doubles, hn::LoadU(floats, values + x)),
+            hn::PromoteTo(doubles, hn::LoadU(floats, values + x + far)));
         const auto mean = hn::Add(hn::Mul(share, inner), hn::Mul(endShare, ends));
         hn::Store(hn::DemoteTo(floats, mean), floats, out + x);
     }
@@ -68,6 +68,39 @@ HWY_AFTER_NAMESPACE();
 #if HWY_ONCE
 
 HWY_EXPORT(meansOverLine);
+
+namespace {
+
+template <typename Number>
+using Rows = std::array<Number *, StreakSource::kChannels>;
+
+// sums[c][i] is the sum of the first i values of row c. All rows at once, since in each a sum waits
+// for the one before it.
+void addUp(const Rows<float> &values, const Rows<double> &sums, int count)
+{
+    const auto [red, green, blue, alpha] = values;
+    const auto [redSums, greenSums, blueSums, alphaSums] = sums;
+    double redSum = 0;
+    double greenSum = 0;
+    double blueSum = 0;
+    double alphaSum = 0;
+    for (int i = 0; i < count; ++i) {
+        redSums[i] = redSum;
+        greenSums[i] = greenSum;
+        blueSums[i] = blueSum;
+        alphaSums[i] = alphaSum;
+        redSum += double{ red[i] };
+        greenSum += double{ green[i] };
+        blueSum += double{ blue[i] };
+        alphaSum += double{ alpha[i] };
+    }
+    redSums[count] = redSum;
+    greenSums[count] = greenSum;
+    blueSums[count] = blueSum;
+    alphaSums[count] = alphaSum;
+}
+
+} // namespace
 
 void streak(const StreakSource &source, double halfLength, const Canvas &out, int right,
     const Parallel &parallel)
@@ -82,29 +115,22 @@ void streak(const StreakSource &source, double halfLength, const Canvas &out, in
     const int end = std::clamp(sourceEnd - first, begin, count);
     parallel.run(source.area.height(), [&](int i) {
         const int y = source.area.top() + i;
-        double *memory = Scratch::doubles(Scratch::Lines, kChannels * (2 * count + 1));
-        std::array<double *, kChannels> values;
-        std::array<double *, kChannels> sums;
+        float *allValues = Scratch::floats(Scratch::Lines, kChannels * count);
+        double *allSums = Scratch::doubles(Scratch::LineSums, kChannels * (count + 1));
+        Rows<float> values;
+        Rows<double> sums;
         for (int channel = 0; channel < kChannels; ++channel) {
-            double *row = memory + channel * (2 * count + 1);
+            float *row = allValues + channel * count;
             const float *pixels = source.canvas.row(channel, y) - source.canvas.left;
-            std::fill_n(row, begin, source.area.left() == 0 ? double{ pixels[0] } : 0);
+            std::fill_n(row, begin, source.area.left() == 0 ? pixels[0] : 0);
             std::copy(pixels + first + begin, pixels + first + end, row + begin);
-            std::fill(row + end, row + count,
-                sourceEnd == source.frameWidth ? double{ pixels[sourceEnd - 1] } : 0);
+            std::fill(
+                row + end, row + count, sourceEnd == source.frameWidth ? pixels[sourceEnd - 1] : 0);
             values[static_cast<std::size_t>(channel)] = row;
-            sums[static_cast<std::size_t>(channel)] = row + count;
+            sums[static_cast<std::size_t>(channel)] = allSums + channel * (count + 1);
         }
-        // All channels at once: each sum waits for the one before it.
-        std::array<double, kChannels> sum{};
-        for (int x = 0; x < count; ++x) {
-            for (std::size_t channel = 0; channel < kChannels; ++channel) {
-                sums[channel][x] = sum[channel];
-                sum[channel] += values[channel][x];
-            }
-        }
+        addUp(values, sums, count);
         for (std::size_t channel = 0; channel < kChannels; ++channel) {
-            sums[channel][count] = sum[channel];
             HWY_DYNAMIC_DISPATCH(meansOverLine)
             (line, values[channel], sums[channel], out.row(static_cast<int>(channel), y), width);
         }
