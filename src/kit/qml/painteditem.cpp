@@ -31,8 +31,16 @@ void PaintedItem::itemChange(ItemChange change, const ItemChangeData &data)
         fitTexture();
 }
 
+void PaintedItem::limitTexture(int longestSide)
+{
+    m_longestSide = longestSide;
+    fitTexture();
+}
+
 void PaintedItem::fitTexture()
 {
-    const QSizeF pixels = size() * renderScale();
+    QSizeF pixels = size() * renderScale();
+    if (qMax(pixels.width(), pixels.height()) > m_longestSide)
+        pixels.scale(m_longestSide, m_longestSide, Qt::KeepAspectRatio);
     setTextureSize(QSize(qCeil(pixels.width()), qCeil(pixels.height())));
 }

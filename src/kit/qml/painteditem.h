@@ -4,6 +4,8 @@
 #include <QQuickPaintedItem>
 #include <QtQml/qqml.h>
 
+#include <limits>
+
 /// A painted item whose texture has as many pixels as it covers on the screen: the interface zoom
 /// times the window's device pixel ratio. Without that a magnified interface would show the
 /// picture of a small one. Subclasses paint in logical coordinates, whatever the texture's size.
@@ -21,6 +23,10 @@ protected:
     /// Device pixels per logical unit.
     [[nodiscard]] double renderScale() const;
 
+    /// Keeps either side of the texture within so many pixels; a larger item is painted coarser and
+    /// magnified. Unlimited by default.
+    void limitTexture(int longestSide);
+
     /// Stores `value` in `field` and repaints if that changes anything; true if it did. The
     /// caller emits its own signal.
     template <typename T>
@@ -35,4 +41,6 @@ protected:
 
 private:
     void fitTexture();
+
+    int m_longestSide = std::numeric_limits<int>::max();
 };
