@@ -1,10 +1,10 @@
 #include "selfcheck/snapshot.h"
 
 #include "content/contentlibrary.h"
-#include "kit/fonts.h"
 #include "kit/preferences.h"
 #include "kit/stillness.h"
 #include "kit/themes.h"
+#include "selfcheck/offscreen.h"
 #include "selfcheck/scenecamera.h"
 #include "selfcheck/shots.h"
 #include "shell/appmodel.h"
@@ -14,7 +14,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
 #include <QQmlEngine>
 #include <QTextStream>
 
@@ -41,16 +40,6 @@ void removeSample()
 {
     for (const auto suffix : { ""_L1, "-wal"_L1, "-shm"_L1 })
         QFile::remove(samplePath() + suffix);
-}
-
-// Offscreen whatever the user's desktop is: these pictures must come out alike everywhere.
-void leaveTheDesktop()
-{
-    for (const char *name : { "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR",
-             "QT_SCREEN_SCALE_FACTORS", "QT_USE_PHYSICAL_DPI" })
-        qunsetenv(name);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }
 
 /// The sample data, in a file of their own for as long as this exists.
@@ -159,16 +148,10 @@ std::optional<int> HVSnapshot::handle(const QStringList &arguments)
     const QDir folder(arguments.at(option + 1));
     QDir().mkpath(folder.path());
 
-    leaveTheDesktop();
-    int argc = 1;
-    char name[] = "halvorin";
-    char *argv[] = { name, nullptr };
-    const QGuiApplication application(argc, argv);
-
+    const OffscreenApplication application;
     Preferences::shared().keepInMemory();
     Stillness::keep();
     HVSetup::configure();
-    QGuiApplication::setFont(Fonts::rounded(12.5));
 
     try {
         SampleStore sample;

@@ -1,5 +1,6 @@
 // The mode that takes pictures, run as the program itself.
 
+#include "camera/hvcolors.h"
 #include "store/storetesting.h"
 #include "store/userstore.h"
 #include "support/program.h"
@@ -207,6 +208,18 @@ TEST_F(Snapshot, ASearchCoversTheScreenUnderIt)
 {
     ASSERT_EQ(plain().status, 0);
     EXPECT_FALSE(plainPicture(u"12-search-tripod"_s) == plainPicture(u"11-notes-progress"_s));
+}
+
+TEST_F(Snapshot, TheTripodIsDrawnInTheGlowOfTheThemeOnTheDisplaysBlack)
+{
+    ASSERT_EQ(plain().status, 0);
+    const QImage picture = plainPicture(u"21-tripod-diagram"_s);
+    ASSERT_EQ(picture.size(), QSize(800, 520));
+    // The drawing's 400 × 260 are 738 × 480 in the middle; its head's upper edge lies at (200, 30)
+    // of them. The theme is the one before, "candy-red-titanium".
+    const HVColors colors(CRVNThemes::named(u"candy-red-titanium"_s));
+    EXPECT_EQ(picture.pixelColor(400, 75).name(), colors.glow().name());
+    EXPECT_EQ(picture.pixelColor(5, 5).name(), colors.oled().name());
 }
 
 TEST_F(Snapshot, TwoRunsMakeTheSameBytes)

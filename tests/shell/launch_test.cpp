@@ -50,7 +50,7 @@ TEST_F(Launch, HelpNamesEveryOptionAndVariable)
     EXPECT_EQ(program.status(), 0);
     const QString help = program.output();
     for (const QString &word : { u"--help"_s, u"--version"_s, u"--hv-snapshot FOLDER"_s,
-             u"HV_CONTENT"_s, u"HV_DB_PATH"_s })
+             u"--diagram-sheet FILE"_s, u"HV_CONTENT"_s, u"HV_DB_PATH"_s })
         EXPECT_TRUE(help.contains(word)) << qPrintable(word);
     EXPECT_TRUE(help.endsWith(u'\n'));
     EXPECT_EQ(program.complaints(), u""_s);
@@ -105,6 +105,13 @@ TEST_F(Launch, UnknownArgumentsArePassedOver)
 TEST_F(Launch, ASnapshotWithoutAFolderOpensTheCamera)
 {
     Program program(home, { u"--hv-snapshot"_s });
+    expectToRunAndEnd(program);
+    EXPECT_EQ(program.output(), u""_s);
+}
+
+TEST_F(Launch, ADiagramSheetWithoutAFileOpensTheCamera)
+{
+    Program program(home, { u"--diagram-sheet"_s });
     expectToRunAndEnd(program);
     EXPECT_EQ(program.output(), u""_s);
 }

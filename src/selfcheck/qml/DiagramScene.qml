@@ -1,5 +1,6 @@
 import QtQuick
 import Halvorin.Camera
+import Halvorin.Diagrams
 
 /*! A gear drawing on the display's black. */
 Rectangle {
@@ -9,12 +10,10 @@ Rectangle {
 
     color: root.c.oled
 
-    PlaceholderScreen {
+    GearDiagramView {
         anchors.fill: parent
         anchors.margins: 20
-        c: root.c
-        title: qsTr("Tripod")
-        line: qsTr("This drawing is still being made.")
-        symbol: "books.vertical"
+        kind: "tripod"
+        glow: root.c.glow
     }
 }

@@ -1,6 +1,7 @@
 #include "shell/launch/halvorinapp.h"
 
 #include "kit/fonts.h"
+#include "selfcheck/diagramsheet.h"
 #include "selfcheck/snapshot.h"
 #include "shell/info.h"
 #include "shell/launch/scenegraph.h"
@@ -23,6 +24,9 @@ Opens the camera. Options:
   --version              show the version
   --hv-snapshot FOLDER   render every screen to a PNG file in FOLDER and end
 
+For developers:
+  --diagram-sheet FILE   paint all gear drawings side by side to a PNG file and end
+
 Environment:
   HV_CONTENT             folder of the course files
   HV_DB_PATH             path of the progress file
@@ -37,6 +41,8 @@ void print(const QString &text)
 std::optional<int> statusOfModes(const QStringList &arguments)
 {
     if (const std::optional<int> status = HVSnapshot::handle(arguments))
+        return status;
+    if (const std::optional<int> status = HVDiagramSheet::handle(arguments))
         return status;
     if (arguments.contains("--help"_L1)) {
         print(kHelp);
