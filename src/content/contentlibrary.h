@@ -1,37 +1,34 @@
-// The course in memory.
+// The course in memory: to look things up in, to search, and to check.
 #pragma once
 
-#include "content/records.h"
+#include "content/coursecontent.h"
+#include "store/sqlitedb.h"
 
 #include <memory>
+#include <optional>
 
-/// The whole course, read from the text files of one folder and unchanged from then on.
+/// The whole course, read from the text files of one folder and unchanged from then on, with an
+/// index to search it by. For the thread that made it: searching moves the index's database.
 ///
-/// The files, in the order in which they are read, their records and the keys of these:
-///   course.txt      MODULE      title, level, summary
-///                   LESSON      module, title, minutes, gear ‡, videos ‡; body
-///   quizzes.txt     QUESTION    module, q (the prompt), why, right *, wrong *
-///   gear.txt        GEAR        name, category, diagram, aka, see ‡, model *; body
-///   timeline.txt    EVENT       year, date, era, title, source *; body
-///   videos.tsv      lines of id, title, channel, module, topic, seconds, published and checked
-///   software.txt    SOFTWARE    name, kind, maker, url, platforms; body
-///   workflows.txt   STEP        stage, film, digital
-/// Records are written as contentparser.h tells; one of another type is skipped.
-///   *   as many fields as there are values, in the order of the values. A model is "name | use |
-///       specs | url | checked", a source is "title | url | checked".
-///   ‡   one field: ids with commas between them.
-/// videos.tsv is a table with tabs between its columns. Its first line is skipped as headings, and
-/// so is each line with fewer columns than these or with an empty id.
-///
-/// Loading accepts everything: what is missing or no whole number gets the default of its record's
-/// field. Only a file that can't be read leaves a trace, in loadErrors().
-///
-/// Lists are in file order, apart from timeline(). Look-ups search their list from the start; the
-/// pointers they return live as long as the library.
+/// coursecontent.h tells what the files hold and in which order the lists are. Look-ups search
+/// their list from the start; the pointers they return live as long as the library.
 class ContentLibrary
 {
 public:
-    /// Loads the course in a time that grows with its length alone. Never fails.
+    /// An article, event, film or program that a search has found.
+    struct Hit {
+        QString kind; ///< "lesson", "gear", "history", "video" or "software".
+        QString ref;  ///< Its id among those of its kind.
+        QString title;
+        QString snippet; ///< At most 14 words of its text, around the words found if they're there.
+
+        /// Tells the hit from those of every kind, such as "gear:tripod".
+        [[nodiscard]] QString id() const;
+
+        friend bool operator==(const Hit &, const Hit &) = default;
+    };
+
+    /// Loads and indexes the course in a time that grows with its length alone. Never fails.
     explicit ContentLibrary(const QString &folder);
     Q_DISABLE_COPY_MOVE(ContentLibrary)
     ~ContentLibrary() = default;
@@ -44,24 +41,19 @@ public:
     /// nullptr, shared() reads the course anew.
     static void setShared(std::unique_ptr<const ContentLibrary> library);
 
-    [[nodiscard]] const QList<Module> &modules() const { return m_modules; }
-    [[nodiscard]] const QList<Lesson> &lessons() const { return m_lessons; }
-    [[nodiscard]] const QList<Question> &questions() const { return m_questions; }
-    [[nodiscard]] const QList<GearEntry> &gear() const { return m_gear; }
-    /// By year, ascending; events of one year in file order.
-    [[nodiscard]] const QList<TimelineEvent> &timeline() const { return m_timeline; }
-    [[nodiscard]] const QList<Video> &videos() const { return m_videos; }
-    [[nodiscard]] const QList<Software> &software() const { return m_software; }
-    [[nodiscard]] const QList<WorkflowStep> &workflow() const { return m_workflow; }
+    [[nodiscard]] const QList<Module> &modules() const { return m_course.modules; }
+    [[nodiscard]] const QList<Lesson> &lessons() const { return m_course.lessons; }
+    [[nodiscard]] const QList<Question> &questions() const { return m_course.questions; }
+    [[nodiscard]] const QList<GearEntry> &gear() const { return m_course.gear; }
+    [[nodiscard]] const QList<TimelineEvent> &timeline() const { return m_course.timeline; }
+    [[nodiscard]] const QList<Video> &videos() const { return m_course.videos; }
+    [[nodiscard]] const QList<Software> &software() const { return m_course.software; }
+    [[nodiscard]] const QList<WorkflowStep> &workflow() const { return m_course.workflow; }
 
-    /// One text for each file that can't be read, in the order of the files: the file's name, ": "
-    /// and one of these sentences.
-    ///   The file can't be found.
-    ///   There is a folder in its place.
-    ///   It isn't an ordinary file.
-    ///   The file can't be read.
-    ///   The file isn't valid UTF-8 text.
-    [[nodiscard]] const QStringList &loadErrors() const { return m_loadErrors; }
+    /// Those of CourseContent, and last, if there is no index, one of
+    ///   search index could not be created
+    ///   search index: …    with what SQLite says
+    [[nodiscard]] const QStringList &loadErrors() const { return m_course.loadErrors; }
 
     /// The first of its list with this id, or nullptr.
     [[nodiscard]] const Module *module(QStringView id) const;
@@ -78,14 +70,40 @@ public:
     /// The models of all gear entries one after the other, repetitions included.
     [[nodiscard]] QList<GearModel> namedModels() const;
 
+    /// The index: a database in memory with the one table `fts` of kind, ref, title, aka and body.
+    /// nullptr if it could not be built; nothing is found then.
+    [[nodiscard]] const SQLiteDB *index() const { return m_index ? &*m_index : nullptr; }
+
+    /// What holds every word of the query (Text::words), each at least as the beginning of a word
+    /// or of its stem, best first: titles that are the query, titles that begin with it, all else;
+    /// within these by how often and where the words stand, a title counting most and a text least.
+    ///
+    /// kind    only hits of this kind; of every kind if absent.
+    /// limit   at most so many hits, chosen before titles are lifted; a negative one is no limit.
+    ///
+    /// Empty for a query without a word or of more than 24, and where SQLite fails. The last few
+    /// answers are remembered, since screens ask for them at each redraw.
+    [[nodiscard]] QList<Hit> search(
+        const QString &query, const std::optional<QString> &kind = {}, qint64 limit = 60) const;
+
+    /// What is wrong with the course, as sentences for its editors: loadErrors(), then what the
+    /// lessons lack, the questions, the gear, the events, the videos and the programs. Empty for a
+    /// sound course.
+    [[nodiscard]] QStringList problems() const;
+
 private:
-    QList<Module> m_modules;
-    QList<Lesson> m_lessons;
-    QList<Question> m_questions;
-    QList<GearEntry> m_gear;
-    QList<TimelineEvent> m_timeline;
-    QList<Video> m_videos;
-    QList<Software> m_software;
-    QList<WorkflowStep> m_workflow;
-    QStringList m_loadErrors;
+    struct Answer {
+        QString query;
+        std::optional<QString> kind;
+        qint64 limit;
+        QList<Hit> hits;
+    };
+
+    void buildIndex();
+    [[nodiscard]] QList<Hit> found(
+        const QStringList &terms, const std::optional<QString> &kind, qint64 limit) const;
+
+    CourseContent m_course;
+    std::optional<SQLiteDB> m_index;
+    mutable QList<Answer> m_answers; // Oldest first.
 };

@@ -17,6 +17,20 @@ QStringView trimmedOf(QStringView text, Predicate isTrimmed)
     return text;
 }
 
+// The code point at a place; half a surrogate pair stands for itself.
+char32_t characterAt(QStringView text, qsizetype place)
+{
+    const QStringView pair = text.sliced(place, qMin<qsizetype>(2, text.size() - place));
+    if (pair.size() == 2 && pair[0].isHighSurrogate() && pair[1].isLowSurrogate())
+        return QChar::surrogateToUcs4(pair[0], pair[1]);
+    return pair[0].unicode();
+}
+
+bool isOfWord(char32_t character)
+{
+    return QChar::isLetterOrNumber(character) || QChar::isMark(character);
+}
+
 } // namespace
 
 namespace Text {
@@ -91,6 +105,26 @@ qsizetype characterCount(QStringView text)
     while (finder.toNextBoundary() != -1)
         ++count;
     return count;
+}
+
+QStringList words(QStringView text)
+{
+    const QString lowered = text.toString().toLower();
+    QStringList words;
+    qsizetype start = 0; // of the word that the loop is in, or else of the next character
+    for (qsizetype i = 0; i < lowered.size();) {
+        const char32_t character = characterAt(lowered, i);
+        const qsizetype next = i + (QChar::requiresSurrogates(character) ? 2 : 1);
+        if (!isOfWord(character)) {
+            if (start < i)
+                words.append(lowered.sliced(start, i - start));
+            start = next;
+        }
+        i = next;
+    }
+    if (start < lowered.size())
+        words.append(lowered.sliced(start));
+    return words;
 }
 
 } // namespace Text

@@ -8,6 +8,7 @@
 
 #include <QByteArrayView>
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 #include <optional>
@@ -39,5 +40,9 @@ namespace Text {
 /// The number of characters as a reader counts them (grapheme clusters): a letter with its
 /// combining marks is one, and so is CR LF.
 [[nodiscard]] qsizetype characterCount(QStringView text);
+
+/// What one can search for in a text: the runs of letters, marks and numbers (general categories
+/// L, M and N), in lower case. "f/2.8" is the three words "f", "2" and "8".
+[[nodiscard]] QStringList words(QStringView text);
 
 } // namespace Text

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -255,4 +257,40 @@ TEST(CharacterCount, CountsWhatAReaderTakesForOneCharacterOnce)
     EXPECT_EQ(Text::characterCount(u"\r\n"), 1);
     EXPECT_EQ(Text::characterCount(u"\n\r"), 2);
     EXPECT_EQ(Text::characterCount(QStringView(u"a\0b", 3)), 3);
+}
+
+// Words
+
+TEST(Words, AreRunsOfLettersMarksAndNumbersInLowerCase)
+{
+    const QList<std::pair<QString, QStringList>> table = {
+        { u"Tripod"_s, { u"tripod"_s } },
+        { u"f/2.8"_s, { u"f"_s, u"2"_s, u"8"_s } },
+        { u"  two  words "_s, { u"two"_s, u"words"_s } },
+        { u"don’t_stop"_s, { u"don"_s, u"t"_s, u"stop"_s } },
+        { u"e\u0301TE\u0301"_s, { u"e\u0301te\u0301"_s } },
+        { u"ÄÖ ΣΙΓΜΑ"_s, { u"äö"_s, u"σιγμα"_s } },
+        { u"½ Ⅻ ١٢ x²"_s, { u"½"_s, u"ⅻ"_s, u"١٢"_s, u"x²"_s } },
+        { u"写真 фото"_s, { u"写真"_s, u"фото"_s } },
+        { u"𝐀𐐀📷𐐀"_s, { u"𝐀𐐨"_s, u"𐐨"_s } },
+        { u"a📷b"_s, { u"a"_s, u"b"_s } },
+    };
+    for (const auto &[text, words] : table)
+        EXPECT_EQ(Text::words(text), words) << text.toUtf8().constData();
+}
+
+TEST(Words, AreNoneInATextWithoutLettersMarksAndNumbers)
+{
+    EXPECT_TRUE(Text::words({}).isEmpty());
+    EXPECT_TRUE(Text::words(u" \t\n").isEmpty());
+    EXPECT_TRUE(Text::words(u"\"*+-^()…–📷€$_").isEmpty());
+}
+
+TEST(Words, EndAtNulAndAtHalfACharacter)
+{
+    EXPECT_EQ(Text::words(QStringView(u"a\0b", 3)), (QStringList{ u"a"_s, u"b"_s }));
+    for (const char16_t half : { char16_t(0xD835), char16_t(0xDC00) }) {
+        const QChar broken[] = { u'a', half, u'b', half };
+        EXPECT_EQ(Text::words(QStringView(broken, 4)), (QStringList{ u"a"_s, u"b"_s }));
+    }
 }
