@@ -3,13 +3,23 @@
 #include "kit/preferences.h"
 #include "kit/zoom.h"
 
+#include <QPainter>
 #include <QQuickWindow>
+#include <QSGImageNode>
+#include <QSGRendererInterface>
 
 PaintedItem::PaintedItem(QQuickItem *parent)
-    : QQuickPaintedItem(parent)
+    : QQuickItem(parent)
 {
+    setFlag(ItemHasContents);
     setAntialiasing(true);
-    Preferences::shared().follow(CNZoom::key, this, [this] { fitTexture(); });
+    Preferences::shared().follow(CNZoom::key, this, [this] { refit(); });
+}
+
+void PaintedItem::refit()
+{
+    update();
+    Q_EMIT textureSizeChanged();
 }
 
 double PaintedItem::renderScale() const
@@ -17,30 +27,74 @@ double PaintedItem::renderScale() const
     return CNZoom::value() * (window() ? window()->effectiveDevicePixelRatio() : 1);
 }
 
-void PaintedItem::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+QSize PaintedItem::textureSize() const
 {
-    QQuickPaintedItem::geometryChange(newGeometry, oldGeometry);
-    if (newGeometry.size() != oldGeometry.size())
-        fitTexture();
+    QSizeF pixels = size() * renderScale();
+    if (qMax(pixels.width(), pixels.height()) > m_longestSide)
+        pixels.scale(m_longestSide, m_longestSide, Qt::KeepAspectRatio);
+    return QSize(qCeil(pixels.width()), qCeil(pixels.height()));
 }
 
-void PaintedItem::itemChange(ItemChange change, const ItemChangeData &data)
+// Whole units, as the scene graph's own painted items are shown.
+QSize PaintedItem::shownSize() const
 {
-    QQuickPaintedItem::itemChange(change, data);
-    if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange)
-        fitTexture();
+    return size().toSize();
 }
 
 void PaintedItem::limitTexture(int longestSide)
 {
     m_longestSide = longestSide;
-    fitTexture();
+    refit();
 }
 
-void PaintedItem::fitTexture()
+void PaintedItem::itemChange(ItemChange change, const ItemChangeData &data)
 {
-    QSizeF pixels = size() * renderScale();
-    if (qMax(pixels.width(), pixels.height()) > m_longestSide)
-        pixels.scale(m_longestSide, m_longestSide, Qt::KeepAspectRatio);
-    setTextureSize(QSize(qCeil(pixels.width()), qCeil(pixels.height())));
+    QQuickItem::itemChange(change, data);
+    if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange)
+        refit();
+    if (change == ItemVisibleHasChanged)
+        update();
+}
+
+void PaintedItem::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    QQuickItem::geometryChange(newGeometry, oldGeometry);
+    if (newGeometry.size() != oldGeometry.size())
+        refit();
+}
+
+QImage PaintedItem::picture()
+{
+    const QSize pixels = textureSize();
+    QImage picture(pixels, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.scale(pixels.width() / double(shownSize().width()),
+        pixels.height() / double(shownSize().height()));
+    paint(&painter);
+    return picture;
+}
+
+QSGNode *PaintedItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
+{
+    if (!isVisible() || shownSize().isEmpty()) {
+        delete old;
+        return nullptr;
+    }
+    auto *node = static_cast<QSGImageNode *>(old);
+    if (!node) {
+        node = window()->createImageNode();
+        node->setOwnsTexture(true);
+        // A graphics processor draws at fractions of a pixel. The software scene graph doesn't, and
+        // the fraction of a pixel by which a picture may be too large would only blur it.
+        const bool software
+            = window()->rendererInterface()->graphicsApi() == QSGRendererInterface::Software;
+        node->setFiltering(software ? QSGTexture::Nearest : QSGTexture::Linear);
+    }
+    const QImage image = picture();
+    node->setTexture(window()->createTextureFromImage(image));
+    node->setSourceRect(image.rect());
+    node->setRect(QRect(QPoint(), shownSize()));
+    return node;
 }

@@ -1,22 +1,37 @@
 // The base of everything that is painted by hand.
 #pragma once
 
-#include <QQuickPaintedItem>
+#include <QImage>
+#include <QQuickItem>
 #include <QtQml/qqml.h>
 
 #include <limits>
 
-/// A painted item whose texture has as many pixels as it covers on the screen: the interface zoom
-/// times the window's device pixel ratio. Without that a magnified interface would show the
-/// picture of a small one. Subclasses paint in logical coordinates, whatever the texture's size.
-class PaintedItem : public QQuickPaintedItem
+/// An item whose picture has as many pixels as it covers on the screen: the interface zoom times
+/// the window's device pixel ratio. Without that a magnified interface would show the picture of a
+/// small one. Subclasses paint in logical coordinates, whatever the picture's size.
+///
+/// Not a QQuickPaintedItem: on the software scene graph that one copies each new picture before it
+/// paints on it, and paints items that can't be seen: half the memory that a start touched.
+class PaintedItem : public QQuickItem
 {
     Q_OBJECT
     QML_ANONYMOUS
+    /// Size of the picture in device pixels.
+    Q_PROPERTY(QSize textureSize READ textureSize NOTIFY textureSizeChanged)
 public:
     explicit PaintedItem(QQuickItem *parent = nullptr);
 
+    [[nodiscard]] QSize textureSize() const;
+
+    /// Paints the item. The picture is transparent before, edges are smoothed.
+    virtual void paint(QPainter *painter) = 0;
+
+Q_SIGNALS:
+    void textureSizeChanged();
+
 protected:
+    QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *data) override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
 
@@ -26,6 +41,9 @@ protected:
     /// Keeps either side of the texture within so many pixels; a larger item is painted coarser and
     /// magnified. Unlimited by default.
     void limitTexture(int longestSide);
+
+    /// The item as paint() makes it. Subclasses that know the picture already answer with that.
+    [[nodiscard]] virtual QImage picture();
 
     /// Stores `value` in `field` and repaints if that changes anything; true if it did. The
     /// caller emits its own signal.
@@ -40,7 +58,8 @@ protected:
     }
 
 private:
-    void fitTexture();
+    void refit();
+    [[nodiscard]] QSize shownSize() const;
 
     int m_longestSide = std::numeric_limits<int>::max();
 };

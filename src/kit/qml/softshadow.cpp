@@ -51,11 +51,18 @@ void SoftShadow::geometryChange(const QRectF &newGeometry, const QRectF &oldGeom
     update();
 }
 
+void SoftShadow::itemChange(ItemChange change, const ItemChangeData &data)
+{
+    QQuickItem::itemChange(change, data);
+    if (change == ItemVisibleHasChanged)
+        update();
+}
+
 QSGNode *SoftShadow::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
 {
     delete old;
     const QRectF reach = boundingRect().adjusted(-m_blur, -m_blur, m_blur, m_blur);
-    if (size().isEmpty() || m_color.alpha() == 0)
+    if (!isVisible() || size().isEmpty() || m_color.alpha() == 0)
         return nullptr;
 
     // Blurred in the pixels of the screen, so that a magnified shadow stays smooth.
