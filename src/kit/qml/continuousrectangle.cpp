@@ -2,7 +2,33 @@
 
 #include "kit/gradients.h"
 
+#include <QCache>
 #include <QPainter>
+
+#include <array>
+
+namespace {
+
+constexpr int kKeptPixels = 512 * 1024;
+
+struct Look {
+    QSize pixels;
+    std::array<double, 4> measures;
+    std::array<QColor, 5> colors; ///< An absent color differs from a transparent one.
+
+    friend bool operator==(const Look &, const Look &) = default;
+};
+
+size_t qHash(const Look &look, size_t seed = 0)
+{
+    seed = qHashMulti(seed, look.pixels.width(), look.pixels.height());
+    seed = qHashRange(look.measures.begin(), look.measures.end(), seed);
+    for (const QColor &color : look.colors)
+        seed = ::qHash(color.rgba(), seed);
+    return seed;
+}
+
+} // namespace
 
 void ContinuousRectangle::paint(QPainter *painter)
 {
@@ -14,4 +40,21 @@ void ContinuousRectangle::paint(QPainter *painter)
             .stroke = verticalBrush(area, m_strokeFrom, {}, m_strokeTo),
             .strokeWidth = m_strokeWidth,
         });
+}
+
+QImage ContinuousRectangle::picture()
+{
+    // Buttons of a rail and cards of a grid look alike, so most rectangles are there already.
+    static QCache<Look, QImage> pictures(kKeptPixels);
+
+    const Look look{
+        .pixels = textureSize(),
+        .measures = { width(), height(), m_radius, m_strokeWidth },
+        .colors = { m_fillFrom, m_fillVia, m_fillTo, m_strokeFrom, m_strokeTo },
+    };
+    if (const QImage *known = pictures.object(look))
+        return *known;
+    const QImage made = PaintedItem::picture();
+    pictures.insert(look, new QImage(made), look.pixels.width() * look.pixels.height());
+    return made;
 }

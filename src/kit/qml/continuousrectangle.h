@@ -34,6 +34,9 @@ public:
 
     void paint(QPainter *painter) override;
 
+protected:
+    [[nodiscard]] QImage picture() override;
+
 Q_SIGNALS:
     void lookChanged();
 
