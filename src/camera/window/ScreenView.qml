@@ -14,6 +14,8 @@ FocusScope {
         id: screen
         anchors.fill: parent
         focus: true
+        // A screen made before the window has its size would lay out every text twice.
+        active: root.width > 0
         sourceComponent: {
             switch (AppModel.screen) {
             case HVScreen.Home: return home;

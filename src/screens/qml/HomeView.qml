@@ -84,11 +84,13 @@ HVScroll {
         Accessible.role: Accessible.Heading
     }
     AdaptiveGrid {
+        id: modules
         width: parent.width
         minimumColumnWidth: 250
         spacing: 12
         model: campus
         delegate: ModuleCard {
+            width: modules.columnWidth // known while its texts are laid out for the first time
             c: root.c
         }
     }
