@@ -98,16 +98,27 @@ FocusScope {
             c: root.c
         }
     }
-    CNDialog {
-        title: CNUI.appName
-        message: AppModel.messageText
-        visible: AppModel.hasMessage
-        onClosed: AppModel.dismissMessage()
+    // None or one, like the results: a start needs neither.
+    Repeater {
+        model: AppModel.hasMessage ? 1 : 0
+        delegate: Item {
+            CNDialog {
+                title: CNUI.appName
+                message: AppModel.messageText
+                visible: true
+                onClosed: AppModel.dismissMessage()
+            }
+        }
     }
-    CNDialog {
-        title: qsTr("New note")
-        message: qsTr("Writing notes is still being built.")
-        visible: AppModel.editsNote
-        onClosed: AppModel.dismissNote()
+    Repeater {
+        model: AppModel.editsNote ? 1 : 0
+        delegate: Item {
+            CNDialog {
+                title: qsTr("New note")
+                message: qsTr("Writing notes is still being built.")
+                visible: true
+                onClosed: AppModel.dismissNote()
+            }
+        }
     }
 }
