@@ -1,7 +1,10 @@
 #include "kit/fonts.h"
 
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QStringList>
+
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -60,6 +63,11 @@ QFont rounded(double size, QFont::Weight weight, double tracking)
 QFont monospaced(double size, QFont::Weight weight)
 {
     return font(monospacedFamily(), size, weight);
+}
+
+void ensureOpen(const QFont &font)
+{
+    std::ignore = QFontMetricsF(font).height();
 }
 
 } // namespace Fonts

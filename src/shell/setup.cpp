@@ -1,7 +1,9 @@
 #include "shell/setup.h"
 
 #include "camera/hvcolors.h"
+#include "camera/textures.h"
 #include "content/contentlibrary.h"
+#include "kit/fonts.h"
 #include "kit/kit.h"
 #include "shell/appmodel.h"
 #include "shell/info.h"
@@ -12,6 +14,8 @@
 #include <QDateTime>
 #include <QDir>
 #include <QTimer>
+
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -58,6 +62,37 @@ void configure()
 {
     CRVNThemes::setDefaultID(HVThemes::brassID);
     CRVNKit::install({ .name = HVInfo::appName, .extraThemes = HVThemes::extras() });
+}
+
+void prepare(double scale)
+{
+    std::ignore = ContentLibrary::shared();
+    std::ignore = Textures::leatherTile(Qt::white, scale);
+}
+
+QList<QFont> firstFonts()
+{
+    using Fonts::rounded;
+    return {
+        rounded(8.5, QFont::Bold),
+        rounded(8.5, QFont::Black),
+        rounded(9, QFont::Black),
+        rounded(9.5, QFont::ExtraBold),
+        rounded(10, QFont::ExtraBold),
+        rounded(11, QFont::DemiBold),
+        rounded(11, QFont::ExtraBold),
+        rounded(11.5),
+        rounded(12.5),
+        rounded(12.5, QFont::Medium),
+        rounded(12.5, QFont::Bold),
+        rounded(13, QFont::Medium),
+        rounded(13, QFont::ExtraBold),
+        rounded(13.5),
+        rounded(14, QFont::ExtraBold),
+        rounded(21, QFont::ExtraBold),
+        rounded(30, QFont::ExtraBold),
+        Fonts::monospaced(11, QFont::Bold),
+    };
 }
 
 void openStore()

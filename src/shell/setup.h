@@ -2,10 +2,22 @@
 // progress file is opened and the course is loaded.
 #pragma once
 
+#include <QFont>
+#include <QList>
+
 namespace HVSetup {
 
 /// Makes the application's theme the default and introduces the application to the kit.
 void configure();
+
+/// Reads the course and makes the leather at `scale`, in device pixels per point: what takes long
+/// and waits for nothing else. It may run in a thread of its own, if nothing asks for either until
+/// it has returned.
+void prepare(double scale);
+
+/// The fonts that the first screen is lettered in. One that is missing here is opened when its
+/// first text is laid out.
+[[nodiscard]] QList<QFont> firstFonts();
 
 /// Opens the progress file as UserStore::shared() and loads ContentLibrary::shared(). Never fails.
 ///

@@ -22,6 +22,8 @@
 
 #include <gtest/gtest.h>
 
+#include <future>
+
 using namespace Qt::StringLiterals;
 using namespace StoreTesting;
 
@@ -189,6 +191,15 @@ TEST_F(HVSetupConfigure, StoresNoPreference)
 }
 
 // A file that opens
+
+TEST_F(HVSetupOpenStore, UsesTheCourseThatAnotherThreadHasPrepared)
+{
+    std::async(std::launch::async, HVSetup::prepare, 1.0).get();
+    const EnvironmentVariable nowhere("HV_CONTENT", home.path(u"nowhere"_s));
+    launch();
+    EXPECT_FALSE(ContentLibrary::shared().lessons().isEmpty());
+    EXPECT_EQ(messages, QStringList());
+}
 
 TEST_F(HVSetupOpenStore, MakesAProgressFileAtTheFirstLaunchAndSaysNothing)
 {

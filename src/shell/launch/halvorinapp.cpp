@@ -1,6 +1,7 @@
 #include "shell/launch/halvorinapp.h"
 
 #include "kit/fonts.h"
+#include "kit/zoom.h"
 #include "selfcheck/diagramsheet.h"
 #include "selfcheck/snapshot.h"
 #include "shell/info.h"
@@ -12,6 +13,8 @@
 
 #include <QQmlComponent>
 #include <QTextStream>
+
+#include <future>
 
 using namespace Qt::StringLiterals;
 
@@ -63,6 +66,25 @@ QStringList argumentList(int argc, char **argv)
     return arguments;
 }
 
+// Answers the engine until it has read all types. Once the typeface is known, the first screen's
+// fonts are opened in between, one at a time: no question waits long. Nothing of ours is in the
+// event loop yet.
+void letEngineRead(const QQmlComponent &component, const std::future<QFont> &typeface)
+{
+    using namespace std::chrono_literals;
+
+    std::optional<QList<QFont>> fonts;
+    while (component.isLoading()) {
+        if (!fonts && typeface.wait_for(0s) == std::future_status::ready)
+            fonts = HVSetup::firstFonts();
+        const bool opensFonts = fonts && !fonts->isEmpty();
+        QCoreApplication::processEvents(
+            opensFonts ? QEventLoop::AllEvents : QEventLoop::WaitForMoreEvents);
+        if (opensFonts)
+            Fonts::ensureOpen(fonts->takeFirst());
+    }
+}
+
 } // namespace
 
 void HalvorinApp::prepareEnvironment()
@@ -97,8 +119,12 @@ void HalvorinApp::start(int &argc, char **argv)
     QObject::connect(m_instance.get(), &SingleInstance::called, m_application.get(),
         [this](const QByteArray &token) { bringToFront(token); });
 
-    // The engine reads the window's types in a thread of its own; meanwhile the typeface is looked
-    // up, which takes as long. Nothing of ours waits in the event loop yet.
+    // The engine reads the window's types in a thread of its own, which now and then waits for an
+    // answer of this one. What else takes long is done beside them.
+    std::future<QFont> typeface
+        = std::async(std::launch::async, [] { return Fonts::rounded(12.5); });
+    std::future<void> preparation = std::async(
+        std::launch::async, HVSetup::prepare, CNZoom::value() * m_application->devicePixelRatio());
     m_engine = std::make_unique<QQmlEngine>();
     m_engine->addImportPath(u":/qt/qml"_s);
     QObject::connect(m_engine.get(), &QQmlEngine::quit, m_application.get(),
@@ -106,9 +132,9 @@ void HalvorinApp::start(int &argc, char **argv)
     QQmlComponent component(m_engine.get(),
         QUrl(u"qrc:/qt/qml/Halvorin/Window/HalvorinWindow.qml"_s), QQmlComponent::Asynchronous);
     SceneGraph::choose();
-    QGuiApplication::setFont(Fonts::rounded(12.5));
-    while (component.isLoading())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    letEngineRead(component, typeface);
+    QGuiApplication::setFont(typeface.get());
+    preparation.get();
 
     // Only now: that loop would swallow the request, and until here there is nothing to bring home.
     quitOnTerminationSignals();
