@@ -16,6 +16,10 @@
 
 #include <future>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -91,6 +95,15 @@ void HalvorinApp::prepareEnvironment()
 {
     // One design point is one logical pixel, on every desktop.
     qputenv("QT_FONT_DPI", "72");
+
+#ifdef __GLIBC__
+    // The heap of a thread grows a page at a time unless told otherwise: hundreds of calls of the
+    // system while the window's types are read. Setting the step fixes the other two limits, which
+    // else follow use; these are where they end up.
+    mallopt(M_TOP_PAD, 4 * 1024 * 1024);
+    mallopt(M_MMAP_THRESHOLD, 32 * 1024 * 1024);
+    mallopt(M_TRIM_THRESHOLD, 64 * 1024 * 1024);
+#endif
 }
 
 HalvorinApp::HalvorinApp(int &argc, char **argv)
