@@ -11,9 +11,8 @@
 #include "simulator/internal/workspace.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
-#include <utility>
+#include <type_traits>
 
 HWY_BEFORE_NAMESPACE();
 namespace HWY_NAMESPACE {
@@ -22,13 +21,16 @@ namespace {
 namespace hn = hwy::HWY_NAMESPACE;
 
 constexpr hn::CappedTag<float, 16> kFloats;
+constexpr hn::CappedTag<double, 8> kDoubles;
+constexpr hn::Rebind<float, decltype(kDoubles)> kHalfFloats;
 using Floats = hn::Vec<decltype(kFloats)>;
 
 constexpr int kLanes = static_cast<int>(hn::MaxLanes(kFloats));
+constexpr int kDoubleLanes = static_cast<int>(hn::MaxLanes(kDoubles));
 
-// Columns to both sides of a row that are needed at most: a whole number of vectors, and more than
-// any disc reaches that is summed here.
-constexpr int kGuard = 16;
+// Columns to both sides of a row that a step may need: a whole number of vectors, and more than any
+// disc reaches that is summed here.
+constexpr int kGuard = 32;
 
 // Rows of a layer's channel as seen from the columns of one area. Rows without light are zeros.
 class Rows
@@ -53,6 +55,23 @@ private:
     int m_left;
     const float *m_zeros;
 };
+
+// column 0 + Σ (column dx to the right + column dx to the left), so many vectors at x.
+template <int Vectors>
+HWY_ATTR HWY_INLINE void sumColumns(
+    const float *columns, int stride, int reach, int x, Floats (&sums)[Vectors])
+{
+    for (int i = 0; i < Vectors; ++i)
+        sums[i] = hn::Load(kFloats, columns + x + i * kLanes);
+    for (int dx = 1; dx <= reach; ++dx) {
+        const float *column = columns + static_cast<std::ptrdiff_t>(dx) * stride + x;
+        for (int i = 0; i < Vectors; ++i) {
+            sums[i] = hn::Add(sums[i],
+                hn::Add(hn::LoadU(kFloats, column + dx + i * kLanes),
+                    hn::LoadU(kFloats, column - dx + i * kLanes)));
+        }
+    }
+}
 
 // Whether any disc that reaches R pixels, whose radius is R + 0.5 at most, touches a pixel. (The
 // corner next to the center lies half a pixel from the pixel's own center each way.)
@@ -99,22 +118,158 @@ HWY_ATTR void sumDirectly(const DiscKernel &kernel, const Rows &rows, int top, i
             }
         }
         for (int x = 0; x < width; x += kLanes) {
-            Floats sum = hn::Load(kFloats, columns + x);
-            for (int dx = 1; dx <= R; ++dx) {
-                const float *column = columns + dx * stride + x;
-                sum = hn::Add(
-                    sum, hn::Add(hn::LoadU(kFloats, column + dx), hn::LoadU(kFloats, column - dx)));
-            }
-            hn::Store(sum, kFloats, out + x);
+            Floats sums[1];
+            sumColumns(columns, stride, R, x, sums);
+            hn::Store(sums[0], kFloats, out + x);
         }
     }
 }
 
-// The sums for discs that reach 1, 2, … pixels. One within its own pixel takes the first.
-template <int... Less>
-constexpr auto sumsForReaches(std::integer_sequence<int, Less...>)
+// The first row by the rim: the weights of the rim's pixels belong to the sums over the columns up
+// and down to them. In double precision.
+HWY_ATTR void sumFirstRow(const DiscBlur &disc, const Rows &rows, int y, int width, double *running)
 {
-    return std::array{ &sumDirectly<Less + 1>... };
+    double *heights = Scratch::doubles(Scratch::Heights, width + 2 * kGuard) + kGuard;
+    std::fill(heights - kGuard, heights + width + kGuard, 0.0);
+    std::fill(running, running + width, 0.0);
+    for (int j = 0; j <= disc.reach(); ++j) {
+        for (int side = 0; side < (j == 0 ? 1 : 2); ++side) {
+            const float *row = rows.at(side == 0 ? y + j : y - j);
+            for (int x = -kGuard; x < width + kGuard; x += kDoubleLanes) {
+                hn::Store(hn::Add(hn::Load(kDoubles, heights + x),
+                              hn::PromoteTo(kDoubles, hn::Load(kHalfFloats, row + x))),
+                    kDoubles, heights + x);
+            }
+        }
+        for (int dx = 0; dx <= disc.reach(); ++dx) {
+            const DiscBlur::RimColumn &column = disc.rim()[static_cast<std::size_t>(dx)];
+            const int index = j - column.first;
+            if (index < 0 || index >= static_cast<int>(column.weights.size()))
+                continue;
+            const auto weight = hn::Set(kDoubles, column.weights[static_cast<std::size_t>(index)]);
+            for (int x = 0; x < width; x += kDoubleLanes) {
+                auto sum = hn::LoadU(kDoubles, heights + x + dx);
+                if (dx != 0)
+                    sum = hn::Add(sum, hn::LoadU(kDoubles, heights + x - dx));
+                hn::Store(hn::Add(hn::Load(kDoubles, running + x), hn::Mul(weight, sum)), kDoubles,
+                    running + x);
+            }
+        }
+    }
+}
+
+HWY_ATTR void store(const double *running, float *out, int width)
+{
+    for (int x = 0; x < width; x += kDoubleLanes) {
+        hn::Store(hn::DemoteTo(kHalfFloats, hn::Load(kDoubles, running + x)), kHalfFloats, out + x);
+    }
+}
+
+// The rim as the loops below read it.
+struct Rim {
+    int reach;
+    int first[kGuard + 1];
+    int count[kGuard + 1];
+    float weights[kGuard + 1][kGuard + 1];
+
+    explicit Rim(const DiscBlur &disc)
+        : reach(disc.reach())
+    {
+        for (int dx = 0; dx <= reach; ++dx) {
+            const DiscBlur::RimColumn &column = disc.rim()[static_cast<std::size_t>(dx)];
+            first[dx] = column.first;
+            count[dx] = static_cast<int>(column.weights.size());
+            for (int i = 0; i < count[dx]; ++i)
+                weights[dx][i] = static_cast<float>(column.weights[static_cast<std::size_t>(i)]);
+        }
+    }
+};
+
+// What the rim's columns gain less what they lose, so many vectors at x.
+template <int Vectors>
+HWY_ATTR HWY_INLINE void sumRimColumns(const Rim &rim, const float *const *gained,
+    const float *const *lost, int x, float *columns, int stride)
+{
+    constexpr int kStep = Vectors * kLanes;
+    HWY_ALIGN float differences[(kGuard + 1) * kStep];
+    for (int j = 0; j <= rim.reach; ++j) {
+        for (int i = 0; i < Vectors; ++i) {
+            const int at = x + i * kLanes;
+            hn::Store(hn::Sub(hn::Load(kFloats, gained[j] + at), hn::Load(kFloats, lost[j] + at)),
+                kFloats, differences + j * kStep + i * kLanes);
+        }
+    }
+    for (int dx = 0; dx <= rim.reach; ++dx) {
+        const float *difference = differences + rim.first[dx] * kStep;
+        const float *weights = rim.weights[dx];
+        Floats sums[Vectors];
+        for (int i = 0; i < Vectors; ++i) {
+            sums[i]
+                = hn::Mul(hn::Set(kFloats, weights[0]), hn::Load(kFloats, difference + i * kLanes));
+        }
+        for (int j = 1; j < rim.count[dx]; ++j) {
+            const Floats weight = hn::Set(kFloats, weights[j]);
+            for (int i = 0; i < Vectors; ++i) {
+                sums[i] = hn::Add(sums[i],
+                    hn::Mul(weight, hn::Load(kFloats, difference + j * kStep + i * kLanes)));
+            }
+        }
+        for (int i = 0; i < Vectors; ++i)
+            hn::Store(sums[i], kFloats, columns + dx * stride + x + i * kLanes);
+    }
+}
+
+// The next row: the one above it and the change.
+template <int Vectors>
+HWY_ATTR HWY_INLINE void addChange(
+    const float *columns, int stride, int reach, int x, double *running, float *out)
+{
+    Floats change[Vectors];
+    sumColumns(columns, stride, reach, x, change);
+    HWY_ALIGN float floats[Vectors * kLanes];
+    for (int i = 0; i < Vectors; ++i)
+        hn::Store(change[i], kFloats, floats + i * kLanes);
+    for (int i = 0; i < Vectors * kLanes; i += kDoubleLanes) {
+        const auto sum = hn::Add(hn::Load(kDoubles, running + x + i),
+            hn::PromoteTo(kDoubles, hn::Load(kHalfFloats, floats + i)));
+        hn::Store(sum, kDoubles, running + x + i);
+        hn::Store(hn::DemoteTo(kHalfFloats, sum), kHalfFloats, out + x + i);
+    }
+}
+
+// Each row from the one above it: what the rim gains less what it loses, down the columns first.
+HWY_ATTR void sumAlongRim(const DiscBlur &disc, const Rows &rows, int top, int bottom, int width,
+    float *out, int outStride)
+{
+    constexpr int kVectors = 4;
+    constexpr int kStep = kVectors * kLanes;
+    const Rim rim(disc);
+    const int guard = (rim.reach + 15) / 16 * 16;
+    const int stride = width + 2 * kGuard;
+    float *columns = Scratch::floats(Scratch::Columns, stride * (rim.reach + 1)) + kGuard;
+    double *running = Scratch::doubles(Scratch::Running, width);
+
+    sumFirstRow(disc, rows, top, width, running);
+    store(running, out, width);
+    for (int y = top + 1; y < bottom; ++y) {
+        const float *gained[kGuard + 1];
+        const float *lost[kGuard + 1];
+        for (int j = 0; j <= rim.reach; ++j) {
+            gained[j] = rows.at(y + j);
+            lost[j] = rows.at(y - 1 - j);
+        }
+        int x = -guard;
+        for (; x + kStep <= width + guard; x += kStep)
+            sumRimColumns<kVectors>(rim, gained, lost, x, columns, stride);
+        for (; x < width + guard; x += kLanes)
+            sumRimColumns<1>(rim, gained, lost, x, columns, stride);
+        out += outStride;
+        x = 0;
+        for (; x + kStep <= width; x += kStep)
+            addChange<kVectors>(columns, stride, rim.reach, x, running, out);
+        for (; x < width; x += kLanes)
+            addChange<1>(columns, stride, rim.reach, x, running, out);
+    }
 }
 
 } // namespace
@@ -125,10 +280,35 @@ HWY_ATTR void blurRows(const DiscBlur &disc, const Layer &layer, int channel, co
     const int width = (area.width() + 15) / 16 * 16;
     const Rows rows(layer, channel, area.left(), width);
     float *out = canvas.row(channel, top);
-    static constexpr auto kSums
-        = sumsForReaches(std::make_integer_sequence<int, DiscBlur::kLongestDirectReach>());
-    kSums[static_cast<std::size_t>(std::max(disc.reach(), 1)) - 1](
-        disc.kernel(), rows, top, bottom, width, out, canvas.stride);
+    const auto sum = [&]<int R>(std::integral_constant<int, R>) {
+        sumDirectly<R>(disc.kernel(), rows, top, bottom, width, out, canvas.stride);
+    };
+    switch (disc.reach()) {
+    case 0:
+    case 1:
+        return sum(std::integral_constant<int, 1>());
+    case 2:
+        return sum(std::integral_constant<int, 2>());
+    case 3:
+        return sum(std::integral_constant<int, 3>());
+    case 4:
+        return sum(std::integral_constant<int, 4>());
+    case 5:
+        return sum(std::integral_constant<int, 5>());
+    case 6:
+        return sum(std::integral_constant<int, 6>());
+    case 7:
+        return sum(std::integral_constant<int, 7>());
+    default:
+        break;
+    }
+    // In strips so narrow that all rows under the disc stay in the processor's first cache.
+    constexpr int kStrip = 384;
+    for (int x = 0; x < width; x += kStrip) {
+        const int stripWidth = std::min(kStrip, width - x);
+        const Rows strip(layer, channel, area.left() + x, stripWidth);
+        sumAlongRim(disc, strip, top, bottom, stripWidth, out + x, canvas.stride);
+    }
 }
 
 } // namespace HWY_NAMESPACE
@@ -140,20 +320,38 @@ HWY_EXPORT(blurRows);
 
 namespace {
 
-// Pieces of a layer that are blurred at a time. They depend on its height alone: the number of
-// threads must not change a byte.
+// From here on a transform costs less than going along the rim.
+constexpr int kLongestRimReach = 16;
+
+// Each band begins with a full sum, so that rounding errors don't add up all the way down. Bands
+// depend on the height alone: the number of threads must not change a byte.
 constexpr int kBands = 8;
 
 } // namespace
 
 DiscBlur::DiscBlur(double radius)
     : m_kernel(radius)
-{ }
+{
+    if (reach() > kLongestRimReach)
+        return;
+    m_rim.resize(static_cast<std::size_t>(reach()) + 1);
+    for (int dx = 0; dx <= reach(); ++dx) {
+        RimColumn &column = m_rim[static_cast<std::size_t>(dx)];
+        const auto change
+            = [&](int j) { return m_kernel.weight(dx, j) - m_kernel.weight(dx, j + 1); };
+        while (column.first < reach() && change(column.first) == 0)
+            ++column.first;
+        for (int j = column.first; j <= reach() && m_kernel.weight(dx, j) != 0; ++j)
+            column.weights.push_back(change(j));
+        if (column.weights.empty())
+            column.weights.push_back(0);
+    }
+}
 
 void DiscBlur::apply(const Layer &layer, const QRect &area, const Canvas &out, Workspace &workspace,
     const Parallel &parallel) const
 {
-    if (reach() <= kLongestDirectReach)
+    if (reach() <= kLongestRimReach)
         applyInBands(layer, area, out, parallel);
     else
         applyByTransform(layer, area, out, workspace, parallel);

@@ -6,6 +6,8 @@
 
 #include <QRect>
 
+#include <vector>
+
 class Layer;
 class Parallel;
 class Workspace;
@@ -25,15 +27,21 @@ public:
     /// Writes all channels of the layer's `area`, blurred, to `out`, whose row begins at the area's
     /// left side. That side is a multiple of 16.
     ///
-    /// A small disc is summed pixel by pixel. A larger one is convolved by way of the layer's
-    /// Fourier transform, which costs the same whatever the radius.
+    /// A small disc is summed pixel by pixel. With a larger one each row is the row above plus the
+    /// change at the disc's rim, which grows with its circumference only; large ones are convolved
+    /// by way of their Fourier transforms, which costs the same for all of them.
     void apply(const Layer &layer, const QRect &area, const Canvas &out, Workspace &workspace,
         const Parallel &parallel) const;
 
-    /// The farthest that discs reach which are summed pixel by pixel, in pixels. For larger ones
-    /// the transform takes less time.
-    static constexpr int kLongestDirectReach = 9;
+    /// The columns of the lower half of the disc's rim: by how much the mean over the disc changes
+    /// from one row to the next for each difference between a row that the disc gains and the one
+    /// that it loses. Weights of the rows from `first` below the center on.
+    struct RimColumn {
+        int first = 0;
+        std::vector<double> weights;
+    };
 
+    [[nodiscard]] const std::vector<RimColumn> &rim() const { return m_rim; }
     [[nodiscard]] const DiscKernel &kernel() const { return m_kernel; }
 
 private:
@@ -43,4 +51,5 @@ private:
         Workspace &workspace, const Parallel &parallel) const;
 
     DiscKernel m_kernel;
+    std::vector<RimColumn> m_rim; // one for each column from the center on
 };
