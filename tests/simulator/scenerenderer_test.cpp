@@ -9,6 +9,7 @@
 
 #include <cmath>
 #include <limits>
+#include <ostream>
 #include <thread>
 
 namespace {
@@ -116,6 +117,16 @@ struct Case {
     QSize size;
     SimSettings settings;
 };
+
+void PrintTo(const Case &one, std::ostream *out)
+{
+    const SimSettings &settings = one.settings;
+    const int width = one.size.width();
+    *out << width << " x " << one.size.height() << ", discs "
+         << settings.backgroundBlurFraction() * width << " and "
+         << settings.moverDefocusFraction() * width << ", streak "
+         << settings.moverStreakFraction() * width << ", " << settings.offset() << " stops";
+}
 
 class SceneRendererAgainstPlain : public testing::TestWithParam<Case>
 {
