@@ -6,6 +6,7 @@
 #include "simulator/internal/layer.h"
 #include "simulator/internal/parallel.h"
 #include "simulator/internal/streak.h"
+#include "simulator/internal/vectors.h"
 #include "simulator/internal/workspace.h"
 #include "simulator/sceneart.h"
 
@@ -57,9 +58,6 @@ float gain(const SimSettings &settings)
     return static_cast<float>(std::exp2(offset));
 }
 
-/// In floats: the widest vector that is ever used.
-constexpr int kWidestVector = 16;
-
 // The part of the frame that lies within so many columns and rows of an area, in whole vectors; the
 // last one may pass the frame's right edge.
 QRect widened(const QRect &area, int columns, int rows, QSize frame)
@@ -67,8 +65,8 @@ QRect widened(const QRect &area, int columns, int rows, QSize frame)
     QRect wide = area.adjusted(-columns, -rows, columns, rows) & QRect({}, frame);
     if (wide.isEmpty())
         return {};
-    wide.setLeft(wide.left() / kWidestVector * kWidestVector);
-    wide.setRight((wide.right() / kWidestVector + 1) * kWidestVector - 1);
+    wide.setLeft(vectorOf(wide.left()));
+    wide.setRight(wholeVectors(wide.right() + 1) - 1);
     return wide;
 }
 
@@ -125,7 +123,7 @@ Canvas asItStands(const Layer &layer)
 
 Canvas canvasFor(const QRect &area, int channels, Workspace::Use use, Workspace &workspace)
 {
-    const int stride = (area.width() + kWidestVector - 1) / kWidestVector * kWidestVector;
+    const int stride = wholeVectors(area.width());
     const std::ptrdiff_t plane = std::ptrdiff_t{ stride } * area.height();
     return { .data = workspace.floats(use, static_cast<std::size_t>(plane * channels)),
         .stride = stride,

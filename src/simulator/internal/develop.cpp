@@ -8,6 +8,7 @@
 #include "simulator/internal/layer.h"
 #include "simulator/internal/parallel.h"
 #include "simulator/internal/srgb.h"
+#include "simulator/internal/vectors.h"
 
 #include <algorithm>
 #include <array>
@@ -42,7 +43,7 @@ namespace {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-constexpr hn::CappedTag<float, 16> kFloats;
+constexpr hn::CappedTag<float, kWidestVector> kFloats;
 constexpr hn::RebindToSigned<decltype(kFloats)> kInts;
 constexpr hn::Rebind<std::uint8_t, decltype(kFloats)> kBytes;
 using Floats = hn::Vec<decltype(kFloats)>;
@@ -187,13 +188,9 @@ HWY_EXPORT(developRow);
 void develop(const Exposed &layers, double sigma, const GrainField &grain, QImage &picture,
     const Parallel &parallel)
 {
-    constexpr int kWidestVector = 16;
     constexpr int kRowsAtOnce = 16;
     const Layer &subject = *layers.subject;
     const QRect subjectArea = subject.bounds();
-    const auto vectorsFrom = [](int x) { return x / kWidestVector * kWidestVector; };
-    const auto vectorsTo
-        = [](int x) { return (x + kWidestVector) / kWidestVector * kWidestVector; };
     uchar *bits = picture.bits(); // here, where it may detach, and not in the threads
     const std::ptrdiff_t bytesPerLine = picture.bytesPerLine();
     const int bands = (picture.height() + kRowsAtOnce - 1) / kRowsAtOnce;
@@ -214,15 +211,15 @@ void develop(const Exposed &layers, double sigma, const GrainField &grain, QImag
             const QRect &mover = layers.moverArea;
             if (!mover.isEmpty() && y >= mover.top() && y <= mover.bottom()) {
                 row.moverBegin = mover.left();
-                row.moverEnd = vectorsTo(mover.right());
+                row.moverEnd = wholeVectors(mover.right() + 1);
                 for (int channel = 0; channel < 4; ++channel) {
                     row.mover[static_cast<std::size_t>(channel)]
                         = layers.mover.row(channel, y) - layers.mover.left;
                 }
             }
             if (subject.litRow(3, y) != nullptr) {
-                row.subjectBegin = vectorsFrom(subjectArea.left());
-                row.subjectEnd = vectorsTo(subjectArea.right());
+                row.subjectBegin = vectorOf(subjectArea.left());
+                row.subjectEnd = wholeVectors(subjectArea.right() + 1);
                 for (int channel = 0; channel < 4; ++channel)
                     row.subject[static_cast<std::size_t>(channel)] = subject.row(channel, y);
             }

@@ -8,6 +8,7 @@
 #include "simulator/internal/layer.h"
 #include "simulator/internal/parallel.h"
 #include "simulator/internal/scratch.h"
+#include "simulator/internal/vectors.h"
 #include "simulator/internal/workspace.h"
 
 #include <algorithm>
@@ -20,7 +21,7 @@ namespace {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-constexpr hn::CappedTag<float, 16> kFloats;
+constexpr hn::CappedTag<float, kWidestVector> kFloats;
 constexpr hn::CappedTag<double, 8> kDoubles;
 constexpr hn::Rebind<float, decltype(kDoubles)> kHalfFloats;
 using Floats = hn::Vec<decltype(kFloats)>;
@@ -244,7 +245,7 @@ HWY_ATTR void sumAlongRim(const DiscBlur &disc, const Rows &rows, int top, int b
     constexpr int kVectors = 4;
     constexpr int kStep = kVectors * kLanes;
     const Rim rim(disc);
-    const int guard = (rim.reach + 15) / 16 * 16;
+    const int guard = wholeVectors(rim.reach);
     const int stride = width + 2 * kGuard;
     float *columns = Scratch::floats(Scratch::Columns, stride * (rim.reach + 1)) + kGuard;
     double *running = Scratch::doubles(Scratch::Running, width);
@@ -277,7 +278,7 @@ HWY_ATTR void sumAlongRim(const DiscBlur &disc, const Rows &rows, int top, int b
 HWY_ATTR void blurRows(const DiscBlur &disc, const Layer &layer, int channel, const QRect &area,
     int top, int bottom, const Canvas &canvas)
 {
-    const int width = (area.width() + 15) / 16 * 16;
+    const int width = wholeVectors(area.width());
     const Rows rows(layer, channel, area.left(), width);
     float *out = canvas.row(channel, top);
     const auto sum = [&]<int R>(std::integral_constant<int, R>) {
@@ -374,7 +375,7 @@ void DiscBlur::applyByTransform(const Layer &layer, const QRect &area, const Can
     Workspace &workspace, const Parallel &parallel) const
 {
     constexpr int kBlock = FourierConvolution::kBlock;
-    const int width = (area.width() + 15) / 16 * 16;
+    const int width = wholeVectors(area.width());
     const FourierConvolution torus(FourierPlan::lengthFor(width + 2 * reach()),
         FourierPlan::lengthFor(area.height() + 2 * reach()));
     float *spectrum = workspace.floats(Workspace::Spectrum, torus.spectrumSize());

@@ -1,16 +1,11 @@
 #include "simulator/internal/grain.h"
 
+#include "simulator/internal/vectors.h"
+
 #include <QtGlobal>
 
 #include <algorithm>
 #include <cmath>
-
-namespace {
-
-/// In floats: the widest vector that is ever used.
-constexpr int kWidestVector = 16;
-
-} // namespace
 
 double GrainGenerator::uniform()
 {
@@ -32,7 +27,7 @@ double GrainGenerator::gaussian()
 GrainField::GrainField(int width, int height)
     : m_width(width)
     , m_height(height)
-    , m_stride((width + kWidestVector - 1) / kWidestVector * kWidestVector)
+    , m_stride(wholeVectors(width))
     , m_values(hwy::AllocateAligned<float>(static_cast<std::size_t>(m_stride)
           * static_cast<std::size_t>(height) * std::size_t{ kPlanes }))
 {

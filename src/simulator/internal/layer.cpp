@@ -1,20 +1,13 @@
 #include "simulator/internal/layer.h"
 
 #include "simulator/internal/srgb.h"
+#include "simulator/internal/vectors.h"
 
 #include <algorithm>
 #include <array>
 #include <utility>
 
 namespace {
-
-/// In floats: the widest vector that is ever used.
-constexpr int kWidestVector = 16;
-
-int roundedUp(int count)
-{
-    return (count + kWidestVector - 1) / kWidestVector * kWidestVector;
-}
 
 QRect opaqueBounds(const QImage &image)
 {
@@ -56,7 +49,7 @@ Layer::Layer(const QImage &image, int channels)
     : m_width(image.width())
     , m_height(image.height())
     , m_channels(channels)
-    , m_stride(roundedUp(m_width) + 2 * kMargin)
+    , m_stride(wholeVectors(m_width) + 2 * kMargin)
     , m_bounds(channels == 4 ? opaqueBounds(image) : image.rect())
     , m_data(hwy::AllocateAligned<float>(
           static_cast<std::size_t>(m_stride) * static_cast<std::size_t>(m_height * channels)))

@@ -26,7 +26,8 @@ struct Job {
 
 // The threads beside the calling ones, one less than there are cores. They are of the standard
 // library, and not the application's pool: that one may be full of renders which wait for these.
-class Team {
+class Team
+{
 public:
     Team()
     {

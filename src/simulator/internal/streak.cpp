@@ -7,6 +7,7 @@
 
 #include "simulator/internal/parallel.h"
 #include "simulator/internal/scratch.h"
+#include "simulator/internal/vectors.h"
 
 #include <algorithm>
 #include <array>
@@ -15,9 +16,6 @@
 #ifndef HV_STREAK_LINE
 #define HV_STREAK_LINE
 namespace {
-
-/// In doubles: the widest vector that is ever used.
-constexpr int kWidestVector = 8;
 
 // The line over whole pixels, and what remains at each end.
 struct Line {
@@ -47,7 +45,7 @@ namespace hn = hwy::HWY_NAMESPACE;
 HWY_ATTR void meansOverLine(
     const Line &line, const float *values, const double *sums, float *out, int count)
 {
-    constexpr hn::CappedTag<double, kWidestVector> doubles;
+    constexpr hn::CappedTag<double, kWidestVector / 2> doubles;
     constexpr hn::Rebind<float, decltype(doubles)> floats;
     const auto share = hn::Set(doubles, 1 / line.length);
     const auto endShare = hn::Set(doubles, line.end / line.length);
@@ -107,7 +105,7 @@ void streak(const StreakSource &source, double halfLength, const Canvas &out, in
 {
     constexpr int kChannels = StreakSource::kChannels;
     const Line line(halfLength);
-    const int width = (right - out.left + kWidestVector - 1) / kWidestVector * kWidestVector;
+    const int width = wholeVectors(right - out.left);
     const int first = out.left - line.reach();
     const int count = width + 2 * line.reach();
     const int sourceEnd = std::min(source.area.right() + 1, source.frameWidth);
