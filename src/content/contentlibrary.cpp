@@ -30,9 +30,7 @@ QList<Value> inModule(const QList<Value> &values, QStringView moduleID)
 
 ContentLibrary::ContentLibrary(const QString &folder)
     : m_course(readCourse(folder))
-{
-    buildIndex();
-}
+{ }
 
 const ContentLibrary &ContentLibrary::shared()
 {
@@ -44,6 +42,26 @@ const ContentLibrary &ContentLibrary::shared()
 void ContentLibrary::setShared(std::unique_ptr<const ContentLibrary> library)
 {
     sharedLibrary = std::move(library);
+}
+
+const ContentLibrary::Index &ContentLibrary::madeIndex() const
+{
+    std::call_once(m_indexIsMade, [this] { m_index = makeIndex(); });
+    return m_index;
+}
+
+QStringList ContentLibrary::loadErrors() const
+{
+    QStringList errors = m_course.loadErrors;
+    if (const Index &index = madeIndex(); !index.database)
+        errors.append(index.error);
+    return errors;
+}
+
+const SQLiteDB *ContentLibrary::index() const
+{
+    const Index &index = madeIndex();
+    return index.database ? &*index.database : nullptr;
 }
 
 const Module *ContentLibrary::module(QStringView id) const

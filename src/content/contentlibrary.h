@@ -5,10 +5,14 @@
 #include "store/sqlitedb.h"
 
 #include <memory>
+#include <mutex>
 #include <optional>
 
 /// The whole course, read from the text files of one folder and unchanged from then on, with an
-/// index to search it by. For the thread that made it: searching moves the index's database.
+/// index to search it by. For one thread: searching moves the index's database.
+///
+/// The index takes five times as long as all else, and the first screen shows without it. So it is
+/// made when something first asks for it, which any thread may do.
 ///
 /// coursecontent.h tells what the files hold and in which order the lists are. Look-ups search
 /// their list from the start; the pointers they return live as long as the library.
@@ -28,7 +32,7 @@ public:
         friend bool operator==(const Hit &, const Hit &) = default;
     };
 
-    /// Loads and indexes the course in a time that grows with its length alone. Never fails.
+    /// Reads the course in a time that grows with its length alone. Never fails.
     explicit ContentLibrary(const QString &folder);
     Q_DISABLE_COPY_MOVE(ContentLibrary)
     ~ContentLibrary() = default;
@@ -53,7 +57,7 @@ public:
     /// Those of CourseContent, and last, if there is no index, one of
     ///   search index could not be created
     ///   search index: …    with what SQLite says
-    [[nodiscard]] const QStringList &loadErrors() const { return m_course.loadErrors; }
+    [[nodiscard]] QStringList loadErrors() const;
 
     /// The first of its list with this id, or nullptr.
     [[nodiscard]] const Module *module(QStringView id) const;
@@ -72,7 +76,7 @@ public:
 
     /// The index: a database in memory with the one table `fts` of kind, ref, title, aka and body.
     /// nullptr if it could not be built; nothing is found then.
-    [[nodiscard]] const SQLiteDB *index() const { return m_index ? &*m_index : nullptr; }
+    [[nodiscard]] const SQLiteDB *index() const;
 
     /// What holds every word of the query (Text::words), each at least as the beginning of a word
     /// or of its stem, best first: titles that are the query, titles that begin with it, all else;
@@ -99,11 +103,19 @@ private:
         QList<Hit> hits;
     };
 
-    void buildIndex();
+    /// The course's search index, or why there is none.
+    struct Index {
+        std::optional<SQLiteDB> database;
+        QString error;
+    };
+
+    [[nodiscard]] const Index &madeIndex() const;
+    [[nodiscard]] Index makeIndex() const;
     [[nodiscard]] QList<Hit> found(
         const QStringList &terms, const std::optional<QString> &kind, qint64 limit) const;
 
     CourseContent m_course;
-    std::optional<SQLiteDB> m_index;
     mutable QList<Answer> m_answers; // Oldest first.
+    mutable std::once_flag m_indexIsMade;
+    mutable Index m_index;
 };

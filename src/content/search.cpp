@@ -55,14 +55,13 @@ QString ContentLibrary::Hit::id() const
     return kind + u':' + ref;
 }
 
-void ContentLibrary::buildIndex()
+ContentLibrary::Index ContentLibrary::makeIndex() const
 {
     std::optional<SQLiteDB> index;
     try {
         index.emplace(u":memory:"_s);
     } catch (const HVError &) {
-        m_course.loadErrors.append(u"search index could not be created"_s);
-        return;
+        return { .error = u"search index could not be created"_s };
     }
 
     const auto insert = [&index](const QString &kind, const QString &ref, const QString &title,
@@ -86,10 +85,10 @@ void ContentLibrary::buildIndex()
                 insert(u"software"_s, program.id, program.name, program.maker + u' ' + program.kind,
                     program.body);
         });
-        m_index = std::move(index);
     } catch (const HVError &error) {
-        m_course.loadErrors.append(u"search index: " + error.description());
+        return { .error = u"search index: " + error.description() };
     }
+    return { .database = std::move(index) };
 }
 
 QList<ContentLibrary::Hit> ContentLibrary::search(
@@ -116,7 +115,7 @@ QList<ContentLibrary::Hit> ContentLibrary::search(
 QList<ContentLibrary::Hit> ContentLibrary::found(
     const QStringList &terms, const std::optional<QString> &kind, qint64 limit) const
 {
-    if (terms.isEmpty() || terms.size() > kMostWords || !m_index)
+    if (terms.isEmpty() || terms.size() > kMostWords || !index())
         return {};
 
     QString sql = kSelect;
@@ -129,7 +128,7 @@ QList<ContentLibrary::Hit> ContentLibrary::found(
 
     const QString needle = terms.join(u' ');
     QList<std::pair<int, Hit>> ranked;
-    for (const SQLRow &row : m_index->query(sql, arguments)) {
+    for (const SQLRow &row : index()->query(sql, arguments)) {
         Hit hit{
             .kind = row.str(u"kind"_s),
             .ref = row.str(u"ref"_s),

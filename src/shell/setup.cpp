@@ -13,6 +13,7 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QThread>
 #include <QTimer>
 
 #include <tuple>
@@ -98,10 +99,21 @@ QList<QFont> firstFonts()
 void openStore()
 {
     openProgress();
+    std::ignore = ContentLibrary::shared();
+}
 
-    const QStringList errors = ContentLibrary::shared().loadErrors();
-    if (!errors.isEmpty())
-        tellLater("Some course files could not be read: "_L1 + errors.join("; "_L1));
+std::unique_ptr<QThread> indexCourse()
+{
+    const ContentLibrary &course = ContentLibrary::shared();
+    std::unique_ptr<QThread> thread(QThread::create([&course] { std::ignore = course.index(); }));
+    QObject::connect(thread.get(), &QThread::finished, &AppModel::shared(), [&course] {
+        const QStringList errors = course.loadErrors();
+        if (!errors.isEmpty())
+            AppModel::shared().setMessage(
+                "Some course files could not be read: "_L1 + errors.join("; "_L1));
+    });
+    thread->start();
+    return thread;
 }
 
 } // namespace HVSetup

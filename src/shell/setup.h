@@ -1,9 +1,12 @@
-// What happens once, before the first window: names and themes are handed to the kit, the
-// progress file is opened and the course is loaded.
+// What happens once, about the first window: names and themes are handed to the kit, the progress
+// file is opened, the course is read and, when the window stands, indexed.
 #pragma once
 
 #include <QFont>
 #include <QList>
+#include <QThread>
+
+#include <memory>
 
 namespace HVSetup {
 
@@ -24,8 +27,13 @@ void prepare(double scale);
 /// A progress file that can't be opened stays as it is, byte for byte, and a new file
 /// "My Progress (opened <seconds since 1970>).sqlite" in the data folder takes its place for this
 /// run; nothing remembers it, so the next launch tries the user's own file again. What the user
-/// must be told goes into AppModel::message once the event loop runs; if course files are missing
-/// too, that message comes last and stays.
+/// must be told goes into AppModel::message once the event loop runs.
 void openStore();
+
+/// Makes the search index of ContentLibrary::shared(), which must live as long as the thread that
+/// is returned. The first screen needs no index and would wait for the processor, so this begins
+/// after it. Then, in the event loop, the user is told which course files could not be read; this
+/// message stays if there is one about the progress file too.
+[[nodiscard]] std::unique_ptr<QThread> indexCourse();
 
 } // namespace HVSetup

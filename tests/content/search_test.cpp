@@ -12,6 +12,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <thread>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -256,8 +257,16 @@ TEST_F(ContentSearch, TakesQueriesOfUpToTwentyFourWords)
     EXPECT_TRUE(course().search(u"tripod "_s.repeated(25)).isEmpty());
 }
 
+TEST_F(ContentSearch, WaitsForAnIndexThatAnotherThreadIsMaking)
+{
+    std::thread maker([this] { EXPECT_TRUE(course().index()); });
+    EXPECT_EQ(course().search(u"tripod"_s).size(), 3);
+    maker.join();
+}
+
 TEST_F(ContentSearch, FindsNothingWhereSQLiteFailsAndFindsItAgainAfterwards)
 {
+    ASSERT_TRUE(course().index());
     {
         const MemoryLimit limit(1);
         EXPECT_TRUE(course().search(u"tripod"_s).isEmpty());

@@ -96,6 +96,8 @@ protected:
     {
         HVSetup::openStore();
         letEventLoopRun();
+        HVSetup::indexCourse()->wait();
+        letEventLoopRun();
     }
 
     // The launch of another second than the last one's.

@@ -157,11 +157,16 @@ void HalvorinApp::start(int &argc, char **argv)
     m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
     if (!m_window)
         qFatal("The window could not be built: %s", qPrintable(component.errorString()));
+    const auto startIndexing = [this] { m_indexing = HVSetup::indexCourse(); };
+    QObject::connect(m_window.get(), &QQuickWindow::frameSwapped, m_application.get(),
+        startIndexing, Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     m_window->show();
 }
 
 HalvorinApp::~HalvorinApp()
 {
+    if (m_indexing)
+        m_indexing->wait();
     // Screens read the store while they are taken down; it closes after them.
     m_window.reset();
     m_engine.reset();

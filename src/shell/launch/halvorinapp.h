@@ -5,6 +5,7 @@
 #include <QQmlEngine>
 #include <QQuickWindow>
 #include <QStringList>
+#include <QThread>
 
 #include <memory>
 #include <optional>
@@ -43,4 +44,5 @@ private:
     std::unique_ptr<SingleInstance> m_instance;
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QQuickWindow> m_window;
+    std::unique_ptr<QThread> m_indexing; ///< Set with the first frame.
 };
