@@ -1,5 +1,6 @@
 #include "simulator/lensthumbs.h"
 
+#include "simulator/internal/renderqueue.h"
 #include "simulator/previewrenderer.h"
 #include "simulator/scenerenderer.h"
 
@@ -47,7 +48,7 @@ void LensThumbs::renderThumbs(
         Q_EMIT thumbsChanged();
         return;
     }
-    QThreadPool::globalInstance()->start([self = QPointer(this), batch = std::move(batch)] {
+    renderQueue().start([self = QPointer(this), batch = std::move(batch)] {
         const QMap<double, QImage> thumbs = rendered(batch, {});
         QMetaObject::invokeMethod(QCoreApplication::instance(), [self, thumbs] {
             if (!self)

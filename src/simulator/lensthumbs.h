@@ -21,7 +21,7 @@ public:
     /// Pictures by f-number.
     [[nodiscard]] const QMap<double, QImage> &thumbs() const { return m_thumbs; }
 
-    /// Renders the rows, on other threads unless PreviewRenderer works synchronously; then the
+    /// Renders the rows, in another thread unless PreviewRenderer works synchronously; then the
     /// pictures join those that are there.
     void renderThumbs(const std::vector<LensLabRow> &rows, const LensLab::Conditions &conditions);
 

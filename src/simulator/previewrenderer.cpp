@@ -1,5 +1,6 @@
 #include "simulator/previewrenderer.h"
 
+#include "simulator/internal/renderqueue.h"
 #include "simulator/scenerenderer.h"
 
 #include <QCoreApplication>
@@ -8,25 +9,9 @@
 
 #include <atomic>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 std::atomic<bool> synchronous = false;
-
-// One render at a time, in the order of the requests.
-QThreadPool &renderQueue()
-{
-    static QThreadPool *const queue = [] {
-        static QThreadPool pool;
-        pool.setObjectName(u"hv.render"_s);
-        pool.setMaxThreadCount(1);
-        // What still waits must not reach for an application that is gone.
-        qAddPostRoutine([] { renderQueue().waitForDone(); });
-        return &pool;
-    }();
-    return *queue;
-}
 
 const SceneRenderer &orShared(const SceneRenderer *renderer)
 {
