@@ -3,6 +3,7 @@
 #include "kit/gradients.h"
 
 #include <QHash>
+#include <QMutex>
 #include <QPainter>
 
 #include <cmath>
@@ -107,11 +108,13 @@ namespace Textures {
 
 QImage leatherTile(const QColor &tint, double scale)
 {
+    static QMutex mutex;
     static QHash<int, QImage> shapes;
     static QHash<std::pair<QRgb, int>, QImage> tiles;
 
     const QColor color = tint.isValid() ? tint.toRgb() : gray(0.5);
     const std::pair key(color.rgba(), scaleKey(scale));
+    const QMutexLocker lock(&mutex);
     if (const auto found = tiles.constFind(key); found != tiles.constEnd())
         return *found;
 
@@ -139,6 +142,7 @@ QPainterPath knurlPath(QSizeF size)
 
 void paintKnurl(QPainter &painter, QSizeF size)
 {
+    static QMutex mutex;
     static std::map<std::tuple<int, int, int>, QImage> pictures;
 
     // The pixels of the device under the painter, however it is turned.
@@ -146,10 +150,12 @@ void paintKnurl(QPainter &painter, QSizeF size)
     const double scale = std::hypot(transform.m11(), transform.m12());
     if (size.isEmpty() || scale <= 0)
         return;
-    QImage &picture
-        = pictures[{ qRound(size.width() * 100), qRound(size.height() * 100), scaleKey(scale) }];
+    const std::tuple key(qRound(size.width() * 100), qRound(size.height() * 100), scaleKey(scale));
+    QMutexLocker lock(&mutex);
+    QImage &picture = pictures[key];
     if (picture.isNull())
         picture = knurls(size, scale);
+    lock.unlock();
 
     painter.save();
     painter.setRenderHint(QPainter::SmoothPixmapTransform);

@@ -1,5 +1,6 @@
 #include "painteditem.h"
 
+#include "kit/picture.h"
 #include "kit/preferences.h"
 #include "kit/zoom.h"
 
@@ -63,17 +64,16 @@ void PaintedItem::geometryChange(const QRectF &newGeometry, const QRectF &oldGeo
         refit();
 }
 
+void PaintedItem::paint(QPainter *) { }
+
 QImage PaintedItem::picture()
 {
     const QSize pixels = textureSize();
-    QImage picture(pixels, QImage::Format_ARGB32_Premultiplied);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.scale(pixels.width() / double(shownSize().width()),
-        pixels.height() / double(shownSize().height()));
-    paint(&painter);
-    return picture;
+    return paintedPicture(pixels, [this, pixels](QPainter &painter) {
+        painter.scale(pixels.width() / double(shownSize().width()),
+            pixels.height() / double(shownSize().height()));
+        paint(&painter);
+    });
 }
 
 QSGNode *PaintedItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)

@@ -24,8 +24,9 @@ public:
 
     [[nodiscard]] QSize textureSize() const;
 
-    /// Paints the item. The picture is transparent before, edges are smoothed.
-    virtual void paint(QPainter *painter) = 0;
+    /// Paints the item as paintedPicture() asks for it: edges are smoothed; while the main thread
+    /// waits, several others may be here at once.
+    virtual void paint(QPainter *painter);
 
 Q_SIGNALS:
     void textureSizeChanged();
@@ -42,7 +43,8 @@ protected:
     /// magnified. Unlimited by default.
     void limitTexture(int longestSide);
 
-    /// The item as paint() makes it. Subclasses that know the picture already answer with that.
+    /// The item as paint() makes it. Subclasses answer otherwise if they know the picture already
+    /// or make it as a whole.
     [[nodiscard]] virtual QImage picture();
 
     /// Stores `value` in `field` and repaints if that changes anything; true if it did. The

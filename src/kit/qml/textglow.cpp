@@ -35,12 +35,10 @@ void TextGlow::setBlur(qreal blur)
         Q_EMIT lookChanged();
 }
 
-void TextGlow::paint(QPainter *painter)
+QImage TextGlow::picture()
 {
     // The item is the text's box with `blur` of margin, which softBlur() needs.
     QImage mask(textureSize(), QImage::Format_ARGB32_Premultiplied);
-    if (mask.isNull())
-        return;
     mask.fill(Qt::transparent);
     const double scale = renderScale();
     mask.setDevicePixelRatio(scale);
@@ -63,5 +61,5 @@ void TextGlow::paint(QPainter *painter)
         ink.setPen(Qt::black);
         layout.draw(&ink, { m_blur, m_blur });
     }
-    painter->drawImage(boundingRect(), softBlur(mask, m_blur * scale, m_color));
+    return softBlur(mask, m_blur * scale, m_color);
 }

@@ -31,10 +31,11 @@ public:
     [[nodiscard]] qreal blur() const { return m_blur; }
     void setBlur(qreal blur);
 
-    void paint(QPainter *painter) override;
-
 Q_SIGNALS:
     void lookChanged();
+
+protected:
+    [[nodiscard]] QImage picture() override;
 
 private:
     QString m_text;
