@@ -122,9 +122,9 @@ ShadowPatch shadowPatch(QSize size, int cornerRadius, int blurRadius, const QCol
 
     // A continuous corner eases over 1.6 radii, and the blur reaches inwards as far as outwards.
     const int corner = int(std::ceil(1.6 * cornerRadius)) + blurRadius;
-    const QSize smallest(2 * corner + 1, 2 * corner + 1);
-    const bool stretches = size.width() >= smallest.width() && size.height() >= smallest.height();
-    const QSize shape = stretches ? smallest : size;
+    const int shortest = 2 * corner + 1;
+    const QSize shape = size.boundedTo({ shortest, shortest });
+    const auto border = [=](int length) { return length >= shortest ? corner + blurRadius : 0; };
 
     const PatchKey key{ shape, cornerRadius, blurRadius, color.rgba() };
     if (const auto found = patches.constFind(key); found != patches.constEnd())
@@ -140,7 +140,7 @@ ShadowPatch shadowPatch(QSize size, int cornerRadius, int blurRadius, const QCol
             continuousPath(QRectF(mask.rect().marginsRemoved(margin)), cornerRadius), Qt::black);
     }
     const ShadowPatch patch{ softBlur(mask, blurRadius, color),
-        stretches ? corner + blurRadius : 0 };
+        { border(size.width()), border(size.height()) } };
     patches.insert(key, patch);
     return patch;
 }

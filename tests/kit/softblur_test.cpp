@@ -61,17 +61,18 @@ QRect extent(const QImage &image)
 QImage stretched(const ShadowPatch &patch, QSize size)
 {
     QImage result = blank(size);
-    const auto source = [&](int at, int length, int whole) {
-        if (at < patch.border)
+    const auto source = [](int at, int length, int whole, int border) {
+        if (at < border || length == whole)
             return at;
         const int fromEnd = length - 1 - at;
-        return fromEnd < patch.border ? whole - 1 - fromEnd : patch.border;
+        return fromEnd < border ? whole - 1 - fromEnd : border;
     };
     for (int y = 0; y < size.height(); ++y) {
         for (int x = 0; x < size.width(); ++x) {
             result.setPixel(x, y,
-                patch.image.pixel(source(x, size.width(), patch.image.width()),
-                    source(y, size.height(), patch.image.height())));
+                patch.image.pixel(
+                    source(x, size.width(), patch.image.width(), patch.border.width()),
+                    source(y, size.height(), patch.image.height(), patch.border.height())));
         }
     }
     return result;
@@ -253,9 +254,10 @@ TEST(SoftBlur, OfNothingIsNothing)
 TEST(ShadowPatch, OfALargeShapeIsASmallPictureWithOneLineToStretch)
 {
     const ShadowPatch patch = shadowPatch({ 900, 500 }, 20, 12, Qt::black);
-    EXPECT_GT(patch.border, 0);
-    EXPECT_EQ(patch.image.width(), 2 * patch.border + 1);
-    EXPECT_EQ(patch.image.height(), 2 * patch.border + 1);
+    EXPECT_GT(patch.border.width(), 0);
+    EXPECT_EQ(patch.border.height(), patch.border.width());
+    EXPECT_EQ(patch.image.width(), 2 * patch.border.width() + 1);
+    EXPECT_EQ(patch.image.height(), 2 * patch.border.height() + 1);
     EXPECT_LT(patch.image.width(), 200);
 }
 
@@ -267,7 +269,8 @@ TEST(ShadowPatch, StretchedIsTheShadowOfTheWholeShape)
         int blur;
     };
     for (const Shape &shape : { Shape{ { 300, 200 }, 20, 12 }, Shape{ { 160, 260 }, 10, 5 },
-             Shape{ { 200, 200 }, 0, 8 }, Shape{ { 220, 150 }, 16, 20 } }) {
+             Shape{ { 200, 200 }, 0, 8 }, Shape{ { 220, 150 }, 16, 20 },
+             Shape{ { 300, 40 }, 18, 12 }, Shape{ { 30, 260 }, 15, 9 } }) {
         SCOPED_TRACE(shape.corner);
         const QMargins margin(shape.blur, shape.blur, shape.blur, shape.blur);
         QImage mask = blank(shape.size.grownBy(margin));
@@ -280,7 +283,7 @@ TEST(ShadowPatch, StretchedIsTheShadowOfTheWholeShape)
         }
         const QImage whole = softBlur(mask, shape.blur, Qt::black);
         const ShadowPatch patch = shadowPatch(shape.size, shape.corner, shape.blur, Qt::black);
-        ASSERT_GT(patch.border, 0);
+        ASSERT_LT(patch.image.width() * patch.image.height(), whole.width() * whole.height());
         const QImage nine = stretched(patch, whole.size());
         for (int y = 0; y < whole.height(); ++y) {
             for (int x = 0; x < whole.width(); ++x)
@@ -301,24 +304,28 @@ TEST(ShadowPatch, ServesEveryLargeSize)
 TEST(ShadowPatch, OfASmallShapeFitsThatShapeAlone)
 {
     const ShadowPatch patch = shadowPatch({ 24, 10 }, 5, 4, Qt::black);
-    EXPECT_EQ(patch.border, 0);
+    EXPECT_EQ(patch.border, QSize(0, 0));
     EXPECT_EQ(patch.image.size(), QSize(24 + 8, 10 + 8));
     EXPECT_NE(patch.image.size(), shadowPatch({ 25, 10 }, 5, 4, Qt::black).image.size());
 }
 
-TEST(ShadowPatch, OfAShapeThatIsSmallOnOneSideOnlyIsNotStretched)
+TEST(ShadowPatch, OfAShapeThatIsLongInOneDirectionStretchesInThatOne)
 {
-    const ShadowPatch patch = shadowPatch({ 900, 12 }, 6, 4, Qt::black);
-    EXPECT_EQ(patch.border, 0);
-    EXPECT_EQ(patch.image.size(), QSize(908, 20));
+    const ShadowPatch low = shadowPatch({ 900, 12 }, 6, 4, Qt::black);
+    EXPECT_EQ(low.border, QSize(10 + 2 * 4, 0));
+    EXPECT_EQ(low.image.size(), QSize(2 * 18 + 1, 20));
+    const ShadowPatch narrow = shadowPatch({ 12, 900 }, 6, 4, Qt::black);
+    EXPECT_EQ(narrow.border, QSize(0, 10 + 2 * 4));
+    EXPECT_EQ(narrow.image.size(), QSize(20, 2 * 18 + 1));
 }
 
 TEST(ShadowPatch, BeginsToStretchWhereOneLineIsLeftInTheMiddle)
 {
     // Corners of 10 ease over 16 pixels, and the blur of 6 reaches as far inwards.
-    EXPECT_EQ(shadowPatch({ 45, 45 }, 10, 6, Qt::black).border, 16 + 2 * 6);
-    EXPECT_EQ(shadowPatch({ 44, 45 }, 10, 6, Qt::black).border, 0);
-    EXPECT_EQ(shadowPatch({ 45, 44 }, 10, 6, Qt::black).border, 0);
+    constexpr int kBorder = 16 + 2 * 6;
+    EXPECT_EQ(shadowPatch({ 45, 45 }, 10, 6, Qt::black).border, QSize(kBorder, kBorder));
+    EXPECT_EQ(shadowPatch({ 44, 45 }, 10, 6, Qt::black).border, QSize(0, kBorder));
+    EXPECT_EQ(shadowPatch({ 45, 44 }, 10, 6, Qt::black).border, QSize(kBorder, 0));
 }
 
 TEST(ShadowPatch, IsKeptForTheNextTime)
