@@ -13,13 +13,15 @@ Item {
         id: metrics
         readonly property real bezel: 7
         readonly property real padding: 10
+        // The glass gives the corners their shape; these only have to end under its bezel.
+        readonly property real corner: 14
     }
 
-    ContinuousRectangle {
+    Rectangle {
         anchors.fill: parent
         anchors.margins: metrics.bezel
-        radius: 22
-        fillFrom: root.c.oled
+        radius: metrics.corner
+        color: root.c.oled
     }
     FocusScope {
         id: content
