@@ -40,7 +40,8 @@ TestCase {
         return Find.first(root ?? camera, item => String(item).startsWith(name + "_") && item.visible);
     }
     function shownScreen() {
-        return Find.first(part("ScreenView"), item => item.sourceComponent !== undefined).item;
+        const screen = Find.first(part("ScreenView"), item => item.sourceComponent !== undefined).item;
+        return String(screen).startsWith("Late_") ? screen.item : screen;
     }
     function results() {
         return part("GlobalResults");

@@ -32,12 +32,15 @@ T.ApplicationWindow {
         id: bar
     }
 
-    // The menus are some hundred objects that nobody needs before the camera can be seen.
-    onFrameSwapped: if (menus.status === Loader.Null) menuDelay.start()
+    // Nobody needs the rest before the camera can be seen; the menus alone are a hundred objects.
+    onFrameSwapped: if (menus.status === Loader.Null) rest.start()
     Timer {
-        id: menuDelay
+        id: rest
         interval: 20
-        onTriggered: menus.setSource("Menus.qml", { bar: bar, window: root })
+        onTriggered: {
+            menus.setSource("Menus.qml", { bar: bar, window: root });
+            camera.readAhead();
+        }
     }
     Loader {
         id: menus

@@ -18,6 +18,16 @@ FocusScope {
         plate.focusSearch();
     }
 
+    /*! Reads what else may be shown, so that nobody waits for it at the first visit. */
+    function readAhead(): void {
+        ahead.components = ["CourseView", "GlobalResults"].map(screen =>
+            Qt.createComponent(`../Screens/${screen}.qml`, Component.Asynchronous));
+    }
+
+    QtObject {
+        id: ahead
+        property list<Component> components // What nothing holds may be forgotten.
+    }
     QtObject {
         id: metrics
         readonly property real margin: 14
@@ -81,13 +91,12 @@ FocusScope {
                 focus: true
                 c: root.c
             }
-            // None or one: the search's results come and go, the screen under them stays.
-            Repeater {
-                model: AppModel.showsResults ? 1 : 0
-                delegate: GlobalResults {
-                    anchors.fill: parent
-                    c: root.c
-                }
+            // The search's results come and go, the screen under them stays.
+            Late {
+                anchors.fill: parent
+                active: AppModel.showsResults
+                c: root.c
+                file: "../Screens/GlobalResults.qml"
             }
         }
         StrapSide {
@@ -98,27 +107,12 @@ FocusScope {
             c: root.c
         }
     }
-    // None or one, like the results: a start needs neither.
-    Repeater {
-        model: AppModel.hasMessage ? 1 : 0
-        delegate: Item {
-            CNDialog {
-                title: CNUI.appName
-                message: AppModel.messageText
-                visible: true
-                onClosed: AppModel.dismissMessage()
-            }
-        }
+    Loader {
+        active: AppModel.hasMessage
+        source: "MessageDialog.qml"
     }
-    Repeater {
-        model: AppModel.editsNote ? 1 : 0
-        delegate: Item {
-            CNDialog {
-                title: qsTr("New note")
-                message: qsTr("Writing notes is still being built.")
-                visible: true
-                onClosed: AppModel.dismissNote()
-            }
-        }
+    Loader {
+        active: AppModel.editsNote
+        source: "NoteDialog.qml"
     }
 }

@@ -46,8 +46,9 @@ FocusScope {
     }
     Component {
         id: course
-        CourseView {
+        Late {
             c: root.c
+            file: "../Screens/CourseView.qml"
             focus: true
         }
     }
