@@ -20,8 +20,8 @@ FocusScope {
 
     /*! Reads what else may be shown, so that nobody waits for it at the first visit. */
     function readAhead(): void {
-        ahead.components = ["CourseView", "GlobalResults"].map(screen =>
-            Qt.createComponent(`../Screens/${screen}.qml`, Component.Asynchronous));
+        for (const screen of ["CourseView", "GlobalResults"])
+            ahead.components.push(Qt.createComponent(`../Screens/${screen}.qml`, Component.Asynchronous));
     }
 
     QtObject {
