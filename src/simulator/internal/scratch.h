@@ -6,7 +6,7 @@
 namespace Scratch {
 
 enum FloatUse { Columns, Transform, Lines, kFloatUses };
-enum DoubleUse { Heights, Running, LineSums, kDoubleUses };
+enum DoubleUse { Heights, Running, LinePairs, LineSums, kDoubleUses };
 
 /// At least `count` elements, aligned for vectors, of any content. Valid until the thread's next
 /// call for the same use.
