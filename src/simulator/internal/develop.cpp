@@ -98,8 +98,10 @@ struct Grain {
         , doubt(hn::Set(kFloats, 0.5F - uncertainty(strength)))
     { }
 
-    // Adds the grain to one channel's bytes. True if some rounding was too close to call.
-    HWY_ATTR HWY_INLINE bool add(Ints &bytes, Floats ownBrightness, Floats ownColor) const
+    // Adds the grain to one channel's bytes. Where a rounding was too close to call, `doubtful` is
+    // set.
+    HWY_ATTR HWY_INLINE Ints add(Ints bytes, Floats ownBrightness, Floats ownColor,
+        hn::Mask<decltype(kFloats)> &doubtful) const
     {
         const Floats value = hn::Add(hn::ConvertTo(kFloats, bytes),
             hn::Add(hn::Mul(brightness, ownBrightness), hn::Mul(color, ownColor)));
@@ -107,25 +109,31 @@ struct Grain {
         const Floats rounded = hn::Floor(shifted);
         const Floats fromMiddle
             = hn::Abs(hn::Sub(hn::Sub(shifted, rounded), hn::Set(kFloats, 0.5F)));
+        doubtful = hn::Gt(fromMiddle, doubt);
         const Floats limited
             = hn::Min(hn::Max(rounded, hn::Zero(kFloats)), hn::Set(kFloats, 255.0F));
-        bytes = hn::ConvertTo(kInts, limited);
-        return !hn::AllFalse(kFloats, hn::Gt(fromMiddle, doubt));
+        return hn::ConvertTo(kInts, limited);
     }
 };
 
-// Recomputes some bytes of one channel exactly.
-HWY_ATTR HWY_NOINLINE Ints addExactly(
-    const Grain &grain, Ints before, int channel, int x, int y, int width)
+// The bytes with grain; the doubtful ones are recomputed exactly from those before it.
+HWY_ATTR HWY_NOINLINE Ints addExactly(const Grain &grain, Ints before, Ints after,
+    hn::Mask<decltype(kFloats)> doubtful, int channel, int x, int y, int width)
 {
     HWY_ALIGN std::int32_t bytes[kLanes];
+    HWY_ALIGN std::int32_t again[kLanes];
+    HWY_ALIGN std::int32_t exact[kLanes];
     hn::Store(before, kInts, bytes);
+    hn::Store(hn::VecFromMask(kInts, hn::RebindMask(kInts, doubtful)), kInts, again);
+    hn::Store(after, kInts, exact);
     for (int lane = 0; lane < kLanes && x + lane < width; ++lane) {
+        if (again[lane] == 0)
+            continue;
         const auto values = grain.field.exact(x + lane, y);
-        bytes[lane] = withGrain(
+        exact[lane] = withGrain(
             bytes[lane], values[0], values[static_cast<std::size_t>(channel) + 1], grain.sigma);
     }
-    return hn::Load(kInts, bytes);
+    return hn::Load(kInts, exact);
 }
 
 } // namespace
@@ -158,8 +166,12 @@ HWY_ATTR void developRow(const DevelopRow &row)
                 const Ints before = bytes[channel];
                 const Floats color
                     = hn::Load(kFloats, noise[static_cast<std::size_t>(channel) + 1] + x);
-                if (grain.add(bytes[channel], brightness, color))
-                    bytes[channel] = addExactly(grain, before, channel, x, row.y, row.width);
+                hn::Mask<decltype(kFloats)> doubtful;
+                bytes[channel] = grain.add(before, brightness, color, doubtful);
+                if (!hn::AllFalse(kFloats, doubtful)) {
+                    bytes[channel] = addExactly(
+                        grain, before, bytes[channel], doubtful, channel, x, row.y, row.width);
+                }
             }
         }
 
