@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cmath>
@@ -232,6 +233,7 @@ TEST(FourierConvolution, ConvolvesOnATorusOfAnyLengths)
         Workspace workspace;
         float *spectrum = workspace.floats(Workspace::Spectrum, torus.spectrumSize());
         float *transformed = workspace.floats(Workspace::KernelSpectrum, torus.kernelSize());
+        std::generate_n(spectrum, torus.spectrumSize(), [&] { return random(generator); });
         const Parallel parallel(2);
         torus.transformKernel(kernel, reach, spectrum, transformed, parallel);
         std::vector<float> firstOut(count);

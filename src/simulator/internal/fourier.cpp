@@ -511,9 +511,12 @@ void FourierConvolution::transformKernel(
             }
         }
         float *rows = kernel + 2 * pair * step;
-        // An odd block at the end goes with one that is of no account.
-        float *otherRows
-            = 2 * pair + 1 < blocksDown() ? rows + step : spectrum + spectrumSize() / 2;
+        float *otherRows = rows + step;
+        if (2 * pair + 1 == blocksDown()) {
+            // An odd block at the end goes alone.
+            otherRows = spectrum + spectrumSize() / 2;
+            std::fill_n(otherRows, step, 0.0F);
+        }
         HWY_DYNAMIC_DISPATCH(transformKernelRows)
         (m_across, blocksOf(width()), rows, otherRows, share);
     });
