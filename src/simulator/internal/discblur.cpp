@@ -371,11 +371,14 @@ void DiscBlur::applyInBands(
     });
 }
 
+// Two planes go through a transform at once. An odd number of channels would leave one alone, so
+// that each is cut into a left and a right half.
 void DiscBlur::applyByTransform(const Layer &layer, const QRect &area, const Canvas &out,
     Workspace &workspace, const Parallel &parallel) const
 {
     constexpr int kBlock = FourierConvolution::kBlock;
-    const int width = wholeVectors(area.width());
+    const int cuts = layer.channels() % 2 + 1;
+    const int width = wholeVectors(area.width()) / cuts;
     const FourierConvolution torus(FourierPlan::lengthFor(width + 2 * reach()),
         FourierPlan::lengthFor(area.height() + 2 * reach()));
     float *spectrum = workspace.floats(Workspace::Spectrum, torus.spectrumSize());
@@ -385,44 +388,45 @@ void DiscBlur::applyByTransform(const Layer &layer, const QRect &area, const Can
         = [this](int dx, int dy) { return static_cast<float>(m_kernel.weight(dx, dy)); };
     torus.transformKernel(weight, reach(), spectrum, kernel, parallel);
 
-    // The torus's pixel (0, 0) is the corner of all that the area's blur depends on.
-    const int left = area.left() - reach();
+    // The torus's pixel (0, 0) is the corner of all that the plane's blur depends on.
     const int top = area.top() - reach();
-    for (int channel = 0; channel < layer.channels(); channel += 2) {
-        const bool paired = channel + 1 < layer.channels();
-        const auto fillPart = [&](int x, int part, float *block) {
-            // The layer's margin holds what the last block needs beyond the area.
-            if (x >= width + 2 * reach())
-                return;
-            for (int y = 0; y < area.height() + 2 * reach(); ++y) {
-                if (const float *row = layer.litRow(channel + part, top + y))
-                    std::memcpy(block + y * kBlock, row + left + x, kBlock * sizeof(float));
-            }
-        };
-        const auto fill = [&](int x, float *re, float *im) {
-            fillPart(x, 0, re);
-            if (paired)
-                fillPart(x, 1, im);
-        };
-        const auto takePart = [&](int x, int part, const float *block) {
-            const int from = std::max(reach() - x, 0);
-            const int to = std::min(kBlock, width + reach() - x);
-            for (int y = 0; y < area.height(); ++y) {
-                const float *row = block + (y + reach()) * kBlock;
-                float *target = out.row(channel + part, area.top() + y) + (x - reach());
+    const auto fillPlane = [&](int plane, int begin, int end, float *columns) {
+        const int left = area.left() + plane % cuts * width - reach();
+        // The layer's margin holds what the last block needs beyond the area.
+        end = std::min(end, width + 2 * reach());
+        for (int y = 0; y < area.height() + 2 * reach(); ++y) {
+            const float *row = layer.litRow(plane / cuts, top + y);
+            if (row == nullptr)
+                continue;
+            float *target = columns + y * kBlock;
+            for (int x = begin; x < end; x += kBlock, target += torus.blockSize())
+                std::memcpy(target, row + left + x, kBlock * sizeof(float));
+        }
+    };
+    const auto takePlane = [&](int plane, int begin, int end, const float *columns) {
+        const int left = plane % cuts * width - reach();
+        for (int y = 0; y < area.height(); ++y) {
+            float *target = out.row(plane / cuts, area.top() + y) + left;
+            const float *row = columns + (y + reach()) * kBlock;
+            for (int x = begin; x < end; x += kBlock, row += torus.blockSize()) {
+                const int from = std::max(reach() - x, 0);
+                const int to = std::min(kBlock, width + reach() - x);
                 if (from == 0 && to == kBlock)
-                    std::memcpy(target, row, kBlock * sizeof(float));
-                else
-                    std::copy(row + from, row + std::max(to, from), target + from);
+                    std::memcpy(target + x, row, kBlock * sizeof(float));
+                else if (from < to)
+                    std::copy(row + from, row + to, target + x + from);
             }
-        };
-        const auto take = [&](int x, const float *re, const float *im) {
-            takePart(x, 0, re);
-            if (paired)
-                takePart(x, 1, im);
-        };
-        torus.convolve(fill, take, spectrum, kernel, parallel);
-    }
+        }
+    };
+    const auto fill = [&](int pair, int begin, int end, float *re, float *im) {
+        fillPlane(2 * pair, begin, end, re);
+        fillPlane(2 * pair + 1, begin, end, im);
+    };
+    const auto take = [&](int pair, int begin, int end, const float *re, const float *im) {
+        takePlane(2 * pair, begin, end, re);
+        takePlane(2 * pair + 1, begin, end, im);
+    };
+    torus.convolve(layer.channels() * cuts / 2, fill, take, spectrum, kernel, parallel);
 }
 
 #endif
