@@ -200,15 +200,17 @@ HWY_EXPORT(developRow);
 void develop(const Exposed &layers, double sigma, const GrainField &grain, QImage &picture,
     const Parallel &parallel)
 {
-    constexpr int kRowsAtOnce = 16;
+    constexpr int kRowsAtOnce = 8;
     const Layer &subject = *layers.subject;
     const QRect subjectArea = subject.bounds();
     uchar *bits = picture.bits(); // here, where it may detach, and not in the threads
     const std::ptrdiff_t bytesPerLine = picture.bytesPerLine();
     const int bands = (picture.height() + kRowsAtOnce - 1) / kRowsAtOnce;
     parallel.run(bands, [&](int band) {
-        const int end = std::min((band + 1) * kRowsAtOnce, picture.height());
-        for (int y = band * kRowsAtOnce; y < end; ++y) {
+        const int top = band * kRowsAtOnce;
+        const int bottom = std::min(top + kRowsAtOnce, picture.height());
+        const Canvas background = layers.background(top, bottom);
+        for (int y = top; y < bottom; ++y) {
             DevelopRow row{};
             row.y = y;
             row.width = picture.width();
@@ -216,10 +218,8 @@ void develop(const Exposed &layers, double sigma, const GrainField &grain, QImag
             row.sigma = sigma;
             row.grain = &grain;
             row.out = bits + y * bytesPerLine;
-            for (int channel = 0; channel < 3; ++channel) {
-                row.background[static_cast<std::size_t>(channel)]
-                    = layers.background.row(channel, y);
-            }
+            for (int channel = 0; channel < 3; ++channel)
+                row.background[static_cast<std::size_t>(channel)] = background.row(channel, y);
             const QRect &mover = layers.moverArea;
             if (!mover.isEmpty() && y >= mover.top() && y <= mover.bottom()) {
                 row.moverBegin = mover.left();

@@ -321,6 +321,9 @@ HWY_EXPORT(blurRows);
 
 namespace {
 
+// The longest for which blurRows() sums each row for itself.
+constexpr int kLongestDirectReach = 7;
+
 // From here on a transform costs less than going along the rim.
 constexpr int kLongestRimReach = 16;
 
@@ -356,6 +359,19 @@ void DiscBlur::apply(const Layer &layer, const QRect &area, const Canvas &out, W
         applyInBands(layer, area, out, parallel);
     else
         applyByTransform(layer, area, out, workspace, parallel);
+}
+
+bool DiscBlur::sumsRowByRow() const
+{
+    return reach() <= kLongestDirectReach;
+}
+
+void DiscBlur::applyToRows(const Layer &layer, const QRect &rows, const Canvas &out) const
+{
+    for (int channel = 0; channel < layer.channels(); ++channel) {
+        HWY_DYNAMIC_DISPATCH(blurRows)
+        (*this, layer, channel, rows, rows.top(), rows.bottom() + 1, out);
+    }
 }
 
 void DiscBlur::applyInBands(
