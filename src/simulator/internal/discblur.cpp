@@ -1,5 +1,6 @@
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "simulator/internal/discblur.cpp"
+#include <hwy/cache_control.h>
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
@@ -102,7 +103,10 @@ HWY_ATTR void sumDirectly(const DiscKernel &kernel, const Rows &rows, int top, i
         const float *source[2 * R + 1];
         for (int dy = -R; dy <= R; ++dy)
             source[dy + R] = rows.at(y + dy);
+        // Rows lie on pages of their own, where the processor doesn't look ahead.
+        const float *next = rows.at(y + R + 1);
         for (int x = -kSide; x < width + kSide; x += kLanes) {
+            hwy::Prefetch(next + x);
             Floats folded[R + 1];
             folded[0] = hn::Load(kFloats, source[R] + x);
             for (int dy = 1; dy <= R; ++dy) {
