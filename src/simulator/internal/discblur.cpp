@@ -84,6 +84,14 @@ constexpr bool reaches(int dx, int dy)
         || dx == 0 || dy == 0;
 }
 
+// Whether every disc that reaches R pixels, whose radius is more than R − 0.5, covers a pixel
+// wholly. All such pixels weigh the same.
+template <int R>
+constexpr bool covers(int dx, int dy)
+{
+    return (2 * dx + 1) * (2 * dx + 1) + (2 * dy + 1) * (2 * dy + 1) <= (2 * R - 1) * (2 * R - 1);
+}
+
 // Discs that reach R pixels. First the weighted sums down each column, for which rows are read in
 // whole vectors, then sums of neighboring columns.
 template <int R>
@@ -113,10 +121,18 @@ HWY_ATTR void sumDirectly(const DiscKernel &kernel, const Rows &rows, int top, i
                 folded[dy] = hn::Add(
                     hn::Load(kFloats, source[R + dy] + x), hn::Load(kFloats, source[R - dy] + x));
             }
+            // Sums from the center's row on, for the pixels that weigh the same.
+            Floats whole[R + 1];
+            whole[0] = folded[0];
+            for (int dy = 1; dy <= R; ++dy)
+                whole[dy] = hn::Add(whole[dy - 1], folded[dy]);
             for (int dx = 0; dx <= R; ++dx) {
-                Floats sum = hn::Mul(hn::Set(kFloats, weights[dx][0]), folded[0]);
+                Floats covered = whole[0];
+                for (int dy = 1; dy <= R; ++dy)
+                    covered = covers<R>(dx, dy) ? whole[dy] : covered;
+                Floats sum = hn::Mul(hn::Set(kFloats, weights[dx][0]), covered);
                 for (int dy = 1; dy <= R; ++dy) {
-                    if (reaches<R>(dx, dy))
+                    if (reaches<R>(dx, dy) && !covers<R>(dx, dy))
                         sum = hn::Add(sum, hn::Mul(hn::Set(kFloats, weights[dx][dy]), folded[dy]));
                 }
                 hn::Store(sum, kFloats, columns + dx * stride + x);
