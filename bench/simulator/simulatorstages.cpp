@@ -159,7 +159,7 @@ void measureSteps(int threads)
     QImage picture(kWidth, kHeight, QImage::Format_RGBA8888_Premultiplied);
     const SimSettings first;
     measure("program", "develop", threads, [&] {
-        develop({ .background = blurredBackground,
+        develop({ .background = [&](int, int) { return blurredBackground; },
                     .mover = smeared,
                     .moverArea = frame,
                     .subject = &subject,

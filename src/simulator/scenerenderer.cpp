@@ -5,6 +5,7 @@
 #include "simulator/internal/grain.h"
 #include "simulator/internal/layer.h"
 #include "simulator/internal/parallel.h"
+#include "simulator/internal/scratch.h"
 #include "simulator/internal/streak.h"
 #include "simulator/internal/vectors.h"
 #include "simulator/internal/workspace.h"
@@ -121,15 +122,32 @@ Canvas asItStands(const Layer &layer)
         .top = 0 };
 }
 
-Canvas canvasFor(const QRect &area, int channels, Workspace::Use use, Workspace &workspace)
+// `memory` gives so many floats.
+template <typename Memory>
+Canvas canvasFor(const QRect &area, int channels, const Memory &memory)
 {
     const int stride = wholeVectors(area.width());
     const std::ptrdiff_t plane = std::ptrdiff_t{ stride } * area.height();
-    return { .data = workspace.floats(use, static_cast<std::size_t>(plane * channels)),
+    return { .data = memory(plane * channels),
         .stride = stride,
         .plane = plane,
         .left = area.left(),
         .top = area.top() };
+}
+
+Canvas canvasFor(const QRect &area, int channels, Workspace::Use use, Workspace &workspace)
+{
+    return canvasFor(area, channels, [&](std::ptrdiff_t count) {
+        return workspace.floats(use, static_cast<std::size_t>(count));
+    });
+}
+
+// Of the calling thread, until it asks for the next one.
+Canvas passingCanvasFor(const QRect &area, int channels)
+{
+    return canvasFor(area, channels, [](std::ptrdiff_t count) {
+        return Scratch::floats(Scratch::Band, static_cast<int>(count));
+    });
 }
 
 } // namespace
@@ -172,11 +190,23 @@ QImage SceneRenderer::picture(const SimSettings &settings, double sigma) const
     std::unique_ptr<Workspace> workspace = d->takeWorkspace();
     const QRect frame({}, d->size);
 
-    Canvas background = asItStands(d->background);
-    if (blurs.backgroundRadius > 0) {
-        background = canvasFor(frame, 3, Workspace::Background, *workspace);
-        DiscBlur(blurs.backgroundRadius)
-            .apply(d->background, frame, background, *workspace, d->parallel);
+    // Where the disc allows it, rows of the background are blurred just before they are developed,
+    // so that they don't leave the processor's cache in between.
+    const DiscBlur backgroundDisc(std::max(blurs.backgroundRadius, kLeastDisc / 2));
+    std::function<Canvas(int, int)> background;
+    if (blurs.backgroundRadius == 0) {
+        background = [this](int, int) { return asItStands(d->background); };
+    } else if (backgroundDisc.sumsRowByRow()) {
+        background = [&](int top, int bottom) {
+            const QRect rows(0, top, d->size.width(), bottom - top);
+            const Canvas canvas = passingCanvasFor(rows, 3);
+            backgroundDisc.applyToRows(d->background, rows, canvas);
+            return canvas;
+        };
+    } else {
+        const Canvas canvas = canvasFor(frame, 3, Workspace::Background, *workspace);
+        backgroundDisc.apply(d->background, frame, canvas, *workspace, d->parallel);
+        background = [canvas](int, int) { return canvas; };
     }
 
     // The cyclist fills a small part of the frame; only what light of it may reach is computed.

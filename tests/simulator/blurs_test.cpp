@@ -9,11 +9,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cmath>
 #include <numbers>
 #include <random>
+#include <utility>
 
 namespace {
 
@@ -232,27 +234,44 @@ TEST(FourierConvolution, ConvolvesOnATorusOfAnyLengths)
         Workspace workspace;
         float *spectrum = workspace.floats(Workspace::Spectrum, torus.spectrumSize());
         float *transformed = workspace.floats(Workspace::KernelSpectrum, torus.kernelSize());
+        std::generate_n(spectrum, torus.spectrumSize(), [&] { return random(generator); });
         const Parallel parallel(2);
         torus.transformKernel(kernel, reach, spectrum, transformed, parallel);
-        std::vector<float> firstOut(count);
-        std::vector<float> secondOut(count);
+        std::array<std::vector<float>, 2> firstOut;
+        std::array<std::vector<float>, 2> secondOut;
+        for (auto *const out : { &firstOut, &secondOut }) {
+            for (std::vector<float> &plane : *out)
+                plane.resize(count);
+        }
         constexpr int kBlock = FourierConvolution::kBlock;
+        const auto columnOf
+            = [&torus](int x) { return x / kBlock * torus.blockSize() + x % kBlock; };
         const auto index
             = [width](int x, int y) { return static_cast<std::size_t>(y * width + x); };
+        // The pair, and once more with its planes exchanged.
         torus.convolve(
-            [&](int x, float *re, float *im) {
-                for (int y = 0; y < height; ++y) {
-                    for (int lane = 0; lane < kBlock && x + lane < width; ++lane) {
-                        re[y * kBlock + lane] = first[index(x + lane, y)];
-                        im[y * kBlock + lane] = second[index(x + lane, y)];
+            2,
+            [&](int pair, int begin, int end, float *re, float *im) {
+                if (pair == 1)
+                    std::swap(re, im);
+                for (int x = begin; x < std::min(end, width); ++x) {
+                    const std::ptrdiff_t column = columnOf(x - begin);
+                    for (int y = 0; y < height; ++y) {
+                        re[column + y * kBlock] = first[index(x, y)];
+                        im[column + y * kBlock] = second[index(x, y)];
                     }
                 }
             },
-            [&](int x, const float *re, const float *im) {
-                for (int y = 0; y < height; ++y) {
-                    for (int lane = 0; lane < kBlock && x + lane < width; ++lane) {
-                        firstOut[index(x + lane, y)] = re[y * kBlock + lane];
-                        secondOut[index(x + lane, y)] = im[y * kBlock + lane];
+            [&](int pair, int begin, int end, const float *re, const float *im) {
+                if (pair == 1)
+                    std::swap(re, im);
+                for (int x = begin; x < std::min(end, width); ++x) {
+                    const std::ptrdiff_t column = columnOf(x - begin);
+                    for (int y = 0; y < height; ++y) {
+                        firstOut[static_cast<std::size_t>(pair)][index(x, y)]
+                            = re[column + y * kBlock];
+                        secondOut[static_cast<std::size_t>(pair)][index(x, y)]
+                            = im[column + y * kBlock];
                     }
                 }
             },
@@ -271,8 +290,10 @@ TEST(FourierConvolution, ConvolvesOnATorusOfAnyLengths)
                         expectedSecond += weight * double{ second[from] };
                     }
                 }
-                ASSERT_NEAR(firstOut[index(x, y)], expectedFirst, 1e-5) << width << 'x' << height;
-                ASSERT_NEAR(secondOut[index(x, y)], expectedSecond, 1e-5) << width << 'x' << height;
+                for (const auto &plane : firstOut)
+                    ASSERT_NEAR(plane[index(x, y)], expectedFirst, 1e-5) << width << 'x' << height;
+                for (const auto &plane : secondOut)
+                    ASSERT_NEAR(plane[index(x, y)], expectedSecond, 1e-5) << width << 'x' << height;
             }
         }
     }

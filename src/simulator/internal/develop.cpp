@@ -76,11 +76,12 @@ HWY_ATTR HWY_INLINE Ints encode(Floats linear, const std::int32_t *table)
     return hn::Sub(hn::ShiftRight<Table::kByteShift>(entry), more);
 }
 
-// How far single precision may be from the exact value of a grainy byte before its rounding: a few
-// units in the last place of the largest number that takes part.
+// How far single precision may be from the exact value of a grainy byte before its rounding. The
+// grain stays within 5 · sigma, in which four roundings count, and two in its sum with a byte; each
+// is by 2⁻²⁴ = 6·10⁻⁸ at most.
 float uncertainty(double sigma)
 {
-    return static_cast<float>((256 + 5 * sigma) * 1e-6);
+    return static_cast<float>((2 * 256 + 6 * 5 * sigma) * 1e-7);
 }
 
 struct Grain {
@@ -98,8 +99,10 @@ struct Grain {
         , doubt(hn::Set(kFloats, 0.5F - uncertainty(strength)))
     { }
 
-    // Adds the grain to one channel's bytes. True if some rounding was too close to call.
-    HWY_ATTR HWY_INLINE bool add(Ints &bytes, Floats ownBrightness, Floats ownColor) const
+    // Adds the grain to one channel's bytes. Where a rounding was too close to call, `doubtful` is
+    // set.
+    HWY_ATTR HWY_INLINE Ints add(Ints bytes, Floats ownBrightness, Floats ownColor,
+        hn::Mask<decltype(kFloats)> &doubtful) const
     {
         const Floats value = hn::Add(hn::ConvertTo(kFloats, bytes),
             hn::Add(hn::Mul(brightness, ownBrightness), hn::Mul(color, ownColor)));
@@ -107,25 +110,31 @@ struct Grain {
         const Floats rounded = hn::Floor(shifted);
         const Floats fromMiddle
             = hn::Abs(hn::Sub(hn::Sub(shifted, rounded), hn::Set(kFloats, 0.5F)));
+        doubtful = hn::Gt(fromMiddle, doubt);
         const Floats limited
             = hn::Min(hn::Max(rounded, hn::Zero(kFloats)), hn::Set(kFloats, 255.0F));
-        bytes = hn::ConvertTo(kInts, limited);
-        return !hn::AllFalse(kFloats, hn::Gt(fromMiddle, doubt));
+        return hn::ConvertTo(kInts, limited);
     }
 };
 
-// Recomputes some bytes of one channel exactly.
-HWY_ATTR HWY_NOINLINE Ints addExactly(
-    const Grain &grain, Ints before, int channel, int x, int y, int width)
+// The bytes with grain; the doubtful ones are recomputed exactly from those before it.
+HWY_ATTR HWY_NOINLINE Ints addExactly(const Grain &grain, Ints before, Ints after,
+    hn::Mask<decltype(kFloats)> doubtful, int channel, int x, int y, int width)
 {
     HWY_ALIGN std::int32_t bytes[kLanes];
+    HWY_ALIGN std::int32_t again[kLanes];
+    HWY_ALIGN std::int32_t exact[kLanes];
     hn::Store(before, kInts, bytes);
+    hn::Store(hn::VecFromMask(kInts, hn::RebindMask(kInts, doubtful)), kInts, again);
+    hn::Store(after, kInts, exact);
     for (int lane = 0; lane < kLanes && x + lane < width; ++lane) {
+        if (again[lane] == 0)
+            continue;
         const auto values = grain.field.exact(x + lane, y);
-        bytes[lane] = withGrain(
+        exact[lane] = withGrain(
             bytes[lane], values[0], values[static_cast<std::size_t>(channel) + 1], grain.sigma);
     }
-    return hn::Load(kInts, bytes);
+    return hn::Load(kInts, exact);
 }
 
 } // namespace
@@ -158,8 +167,12 @@ HWY_ATTR void developRow(const DevelopRow &row)
                 const Ints before = bytes[channel];
                 const Floats color
                     = hn::Load(kFloats, noise[static_cast<std::size_t>(channel) + 1] + x);
-                if (grain.add(bytes[channel], brightness, color))
-                    bytes[channel] = addExactly(grain, before, channel, x, row.y, row.width);
+                hn::Mask<decltype(kFloats)> doubtful;
+                bytes[channel] = grain.add(before, brightness, color, doubtful);
+                if (!hn::AllFalse(kFloats, doubtful)) {
+                    bytes[channel] = addExactly(
+                        grain, before, bytes[channel], doubtful, channel, x, row.y, row.width);
+                }
             }
         }
 
@@ -188,15 +201,17 @@ HWY_EXPORT(developRow);
 void develop(const Exposed &layers, double sigma, const GrainField &grain, QImage &picture,
     const Parallel &parallel)
 {
-    constexpr int kRowsAtOnce = 16;
+    constexpr int kRowsAtOnce = 8;
     const Layer &subject = *layers.subject;
     const QRect subjectArea = subject.bounds();
     uchar *bits = picture.bits(); // here, where it may detach, and not in the threads
     const std::ptrdiff_t bytesPerLine = picture.bytesPerLine();
     const int bands = (picture.height() + kRowsAtOnce - 1) / kRowsAtOnce;
     parallel.run(bands, [&](int band) {
-        const int end = std::min((band + 1) * kRowsAtOnce, picture.height());
-        for (int y = band * kRowsAtOnce; y < end; ++y) {
+        const int top = band * kRowsAtOnce;
+        const int bottom = std::min(top + kRowsAtOnce, picture.height());
+        const Canvas background = layers.background(top, bottom);
+        for (int y = top; y < bottom; ++y) {
             DevelopRow row{};
             row.y = y;
             row.width = picture.width();
@@ -204,10 +219,8 @@ void develop(const Exposed &layers, double sigma, const GrainField &grain, QImag
             row.sigma = sigma;
             row.grain = &grain;
             row.out = bits + y * bytesPerLine;
-            for (int channel = 0; channel < 3; ++channel) {
-                row.background[static_cast<std::size_t>(channel)]
-                    = layers.background.row(channel, y);
-            }
+            for (int channel = 0; channel < 3; ++channel)
+                row.background[static_cast<std::size_t>(channel)] = background.row(channel, y);
             const QRect &mover = layers.moverArea;
             if (!mover.isEmpty() && y >= mover.top() && y <= mover.bottom()) {
                 row.moverBegin = mover.left();

@@ -6,15 +6,19 @@
 #include <QImage>
 #include <QRect>
 
+#include <functional>
+
 class GrainField;
 class Layer;
 class Parallel;
 
 /// The layers of a picture, already blurred, back to front.
 struct Exposed {
-    Canvas background; ///< three channels, the whole frame
-    Canvas mover;      ///< four channels, where `moverArea` says
-    QRect moverArea;   ///< the rest of the frame is transparent; may be empty
+    /// The rows from `top` to before `bottom`, of three channels; valid until the thread's next
+    /// call.
+    std::function<Canvas(int top, int bottom)> background;
+    Canvas mover;    ///< four channels, where `moverArea` says
+    QRect moverArea; ///< the rest of the frame is transparent; may be empty
     const Layer *subject;
     float gain; ///< what linear light is multiplied with; NaN counts as 1
 };

@@ -1,5 +1,6 @@
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "simulator/internal/discblur.cpp"
+#include <hwy/cache_control.h>
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
@@ -83,6 +84,14 @@ constexpr bool reaches(int dx, int dy)
         || dx == 0 || dy == 0;
 }
 
+// Whether every disc that reaches R pixels, whose radius is more than R − 0.5, covers a pixel
+// wholly. All such pixels weigh the same.
+template <int R>
+constexpr bool covers(int dx, int dy)
+{
+    return (2 * dx + 1) * (2 * dx + 1) + (2 * dy + 1) * (2 * dy + 1) <= (2 * R - 1) * (2 * R - 1);
+}
+
 // Discs that reach R pixels. First the weighted sums down each column, for which rows are read in
 // whole vectors, then sums of neighboring columns.
 template <int R>
@@ -102,17 +111,28 @@ HWY_ATTR void sumDirectly(const DiscKernel &kernel, const Rows &rows, int top, i
         const float *source[2 * R + 1];
         for (int dy = -R; dy <= R; ++dy)
             source[dy + R] = rows.at(y + dy);
+        // Rows lie on pages of their own, where the processor doesn't look ahead.
+        const float *next = rows.at(y + R + 1);
         for (int x = -kSide; x < width + kSide; x += kLanes) {
+            hwy::Prefetch(next + x);
             Floats folded[R + 1];
             folded[0] = hn::Load(kFloats, source[R] + x);
             for (int dy = 1; dy <= R; ++dy) {
                 folded[dy] = hn::Add(
                     hn::Load(kFloats, source[R + dy] + x), hn::Load(kFloats, source[R - dy] + x));
             }
+            // Sums from the center's row on, for the pixels that weigh the same.
+            Floats whole[R + 1];
+            whole[0] = folded[0];
+            for (int dy = 1; dy <= R; ++dy)
+                whole[dy] = hn::Add(whole[dy - 1], folded[dy]);
             for (int dx = 0; dx <= R; ++dx) {
-                Floats sum = hn::Mul(hn::Set(kFloats, weights[dx][0]), folded[0]);
+                Floats covered = whole[0];
+                for (int dy = 1; dy <= R; ++dy)
+                    covered = covers<R>(dx, dy) ? whole[dy] : covered;
+                Floats sum = hn::Mul(hn::Set(kFloats, weights[dx][0]), covered);
                 for (int dy = 1; dy <= R; ++dy) {
-                    if (reaches<R>(dx, dy))
+                    if (reaches<R>(dx, dy) && !covers<R>(dx, dy))
                         sum = hn::Add(sum, hn::Mul(hn::Set(kFloats, weights[dx][dy]), folded[dy]));
                 }
                 hn::Store(sum, kFloats, columns + dx * stride + x);
@@ -321,6 +341,9 @@ HWY_EXPORT(blurRows);
 
 namespace {
 
+// The longest for which blurRows() sums each row for itself.
+constexpr int kLongestDirectReach = 7;
+
 // From here on a transform costs less than going along the rim.
 constexpr int kLongestRimReach = 16;
 
@@ -358,6 +381,19 @@ void DiscBlur::apply(const Layer &layer, const QRect &area, const Canvas &out, W
         applyByTransform(layer, area, out, workspace, parallel);
 }
 
+bool DiscBlur::sumsRowByRow() const
+{
+    return reach() <= kLongestDirectReach;
+}
+
+void DiscBlur::applyToRows(const Layer &layer, const QRect &rows, const Canvas &out) const
+{
+    for (int channel = 0; channel < layer.channels(); ++channel) {
+        HWY_DYNAMIC_DISPATCH(blurRows)
+        (*this, layer, channel, rows, rows.top(), rows.bottom() + 1, out);
+    }
+}
+
 void DiscBlur::applyInBands(
     const Layer &layer, const QRect &area, const Canvas &out, const Parallel &parallel) const
 {
@@ -371,11 +407,14 @@ void DiscBlur::applyInBands(
     });
 }
 
+// Two planes go through a transform at once. An odd number of channels would leave one alone, so
+// that each is cut into a left and a right half.
 void DiscBlur::applyByTransform(const Layer &layer, const QRect &area, const Canvas &out,
     Workspace &workspace, const Parallel &parallel) const
 {
     constexpr int kBlock = FourierConvolution::kBlock;
-    const int width = wholeVectors(area.width());
+    const int cuts = layer.channels() % 2 + 1;
+    const int width = wholeVectors(area.width()) / cuts;
     const FourierConvolution torus(FourierPlan::lengthFor(width + 2 * reach()),
         FourierPlan::lengthFor(area.height() + 2 * reach()));
     float *spectrum = workspace.floats(Workspace::Spectrum, torus.spectrumSize());
@@ -385,44 +424,45 @@ void DiscBlur::applyByTransform(const Layer &layer, const QRect &area, const Can
         = [this](int dx, int dy) { return static_cast<float>(m_kernel.weight(dx, dy)); };
     torus.transformKernel(weight, reach(), spectrum, kernel, parallel);
 
-    // The torus's pixel (0, 0) is the corner of all that the area's blur depends on.
-    const int left = area.left() - reach();
+    // The torus's pixel (0, 0) is the corner of all that the plane's blur depends on.
     const int top = area.top() - reach();
-    for (int channel = 0; channel < layer.channels(); channel += 2) {
-        const bool paired = channel + 1 < layer.channels();
-        const auto fillPart = [&](int x, int part, float *block) {
-            // The layer's margin holds what the last block needs beyond the area.
-            if (x >= width + 2 * reach())
-                return;
-            for (int y = 0; y < area.height() + 2 * reach(); ++y) {
-                if (const float *row = layer.litRow(channel + part, top + y))
-                    std::memcpy(block + y * kBlock, row + left + x, kBlock * sizeof(float));
-            }
-        };
-        const auto fill = [&](int x, float *re, float *im) {
-            fillPart(x, 0, re);
-            if (paired)
-                fillPart(x, 1, im);
-        };
-        const auto takePart = [&](int x, int part, const float *block) {
-            const int from = std::max(reach() - x, 0);
-            const int to = std::min(kBlock, width + reach() - x);
-            for (int y = 0; y < area.height(); ++y) {
-                const float *row = block + (y + reach()) * kBlock;
-                float *target = out.row(channel + part, area.top() + y) + (x - reach());
+    const auto fillPlane = [&](int plane, int begin, int end, float *columns) {
+        const int left = area.left() + plane % cuts * width - reach();
+        // The layer's margin holds what the last block needs beyond the area.
+        end = std::min(end, width + 2 * reach());
+        for (int y = 0; y < area.height() + 2 * reach(); ++y) {
+            const float *row = layer.litRow(plane / cuts, top + y);
+            if (row == nullptr)
+                continue;
+            float *target = columns + y * kBlock;
+            for (int x = begin; x < end; x += kBlock, target += torus.blockSize())
+                std::memcpy(target, row + left + x, kBlock * sizeof(float));
+        }
+    };
+    const auto takePlane = [&](int plane, int begin, int end, const float *columns) {
+        const int left = plane % cuts * width - reach();
+        for (int y = 0; y < area.height(); ++y) {
+            float *target = out.row(plane / cuts, area.top() + y) + left;
+            const float *row = columns + (y + reach()) * kBlock;
+            for (int x = begin; x < end; x += kBlock, row += torus.blockSize()) {
+                const int from = std::max(reach() - x, 0);
+                const int to = std::min(kBlock, width + reach() - x);
                 if (from == 0 && to == kBlock)
-                    std::memcpy(target, row, kBlock * sizeof(float));
-                else
-                    std::copy(row + from, row + std::max(to, from), target + from);
+                    std::memcpy(target + x, row, kBlock * sizeof(float));
+                else if (from < to)
+                    std::copy(row + from, row + to, target + x + from);
             }
-        };
-        const auto take = [&](int x, const float *re, const float *im) {
-            takePart(x, 0, re);
-            if (paired)
-                takePart(x, 1, im);
-        };
-        torus.convolve(fill, take, spectrum, kernel, parallel);
-    }
+        }
+    };
+    const auto fill = [&](int pair, int begin, int end, float *re, float *im) {
+        fillPlane(2 * pair, begin, end, re);
+        fillPlane(2 * pair + 1, begin, end, im);
+    };
+    const auto take = [&](int pair, int begin, int end, const float *re, const float *im) {
+        takePlane(2 * pair, begin, end, re);
+        takePlane(2 * pair + 1, begin, end, im);
+    };
+    torus.convolve(layer.channels() * cuts / 2, fill, take, spectrum, kernel, parallel);
 }
 
 #endif

@@ -33,6 +33,14 @@ public:
     void apply(const Layer &layer, const QRect &area, const Canvas &out, Workspace &workspace,
         const Parallel &parallel) const;
 
+    /// Whether each row is summed for itself, so that rows can be blurred as they are needed.
+    [[nodiscard]] bool sumsRowByRow() const;
+
+    /// Writes some rows of the layer, in the same way, on the calling thread.
+    ///
+    /// @pre sumsRowByRow().
+    void applyToRows(const Layer &layer, const QRect &rows, const Canvas &out) const;
+
     /// The columns of the lower half of the disc's rim: by how much the mean over the disc changes
     /// from one row to the next for each difference between a row that the disc gains and the one
     /// that it loses. Weights of the rows from `first` below the center on.

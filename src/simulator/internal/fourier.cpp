@@ -410,6 +410,9 @@ HWY_EXPORT(convolveRows);
 namespace {
 
 constexpr int kBlock = FourierConvolution::kBlock;
+// Blocks that are filled and taken at once: so much of a picture's row lies together.
+constexpr int kStrip = 4;
+
 constexpr std::ptrdiff_t kSquare = std::ptrdiff_t{ kBlock } * kBlock;
 
 FourierBlocks blocksOf(int terms)
@@ -511,37 +514,55 @@ void FourierConvolution::transformKernel(
             }
         }
         float *rows = kernel + 2 * pair * step;
-        // An odd block at the end goes with one that is of no account.
-        float *otherRows
-            = 2 * pair + 1 < blocksDown() ? rows + step : spectrum + spectrumSize() / 2;
+        float *otherRows = rows + step;
+        if (2 * pair + 1 == blocksDown()) {
+            // An odd block at the end goes alone.
+            otherRows = spectrum + spectrumSize() / 2;
+            std::fill_n(otherRows, step, 0.0F);
+        }
         HWY_DYNAMIC_DISPATCH(transformKernelRows)
         (m_across, blocksOf(width()), rows, otherRows, share);
     });
 }
 
-void FourierConvolution::convolve(const Fill &fill, const Take &take, float *spectrum,
+void FourierConvolution::convolve(int pairs, const Fill &fill, const Take &take, float *spectrum,
     const float *kernel, const Parallel &parallel) const
 {
     const std::ptrdiff_t step = blocksAcross() * kSquare;
+    const std::ptrdiff_t stripSize = kStrip * blockSize();
     float *re = spectrum;
     float *im = spectrum + kernelSize();
-    parallel.run(blocksAcross(), [&](int i) {
-        const FourierBlocks blocks = blocksOf(blocksDown() * kBlock);
-        std::fill_n(blocks.a.re, 2 * blocksDown() * kSquare, 0.0F);
-        fill(i * kBlock, blocks.a.re, blocks.a.im);
-        HWY_DYNAMIC_DISPATCH(transformColumns)
-        (m_down, blocks, re + i * kSquare, im + i * kSquare, step);
-    });
-    parallel.run(blocksDown(), [&](int i) {
-        HWY_DYNAMIC_DISPATCH(convolveRows)
-        (m_across, blocksOf(width()), { re + i * step, im + i * step }, kernel + i * step);
-    });
-    parallel.run(blocksAcross(), [&](int i) {
-        const FourierBlocks blocks = blocksOf(blocksDown() * kBlock);
-        HWY_DYNAMIC_DISPATCH(transformColumnsBack)
-        (m_down, blocks, re + i * kSquare, im + i * kSquare, step);
-        take(i * kBlock, blocks.a.re, blocks.a.im);
-    });
+    for (int pair = 0; pair <= pairs; ++pair) {
+        // Where a pair's columns have left the spectrum, those of the next one take their place.
+        parallel.run((blocksAcross() + kStrip - 1) / kStrip, [&](int strip) {
+            const int begin = strip * kStrip;
+            const int end = std::min(begin + kStrip, blocksAcross());
+            float *columns = Scratch::floats(Scratch::Strip, static_cast<int>(2 * stripSize));
+            FourierBlocks blocks = blocksOf(blocksDown() * kBlock);
+            const auto forEachBlock = [&](auto transformBlock) {
+                for (int i = begin; i < end; ++i) {
+                    blocks.a.re = columns + (i - begin) * blockSize();
+                    blocks.a.im = blocks.a.re + stripSize;
+                    transformBlock(m_down, blocks, re + i * kSquare, im + i * kSquare, step);
+                }
+            };
+            if (pair > 0) {
+                forEachBlock(HWY_DYNAMIC_DISPATCH(transformColumnsBack));
+                take(pair - 1, begin * kBlock, end * kBlock, columns, columns + stripSize);
+            }
+            if (pair < pairs) {
+                std::fill_n(columns, 2 * stripSize, 0.0F);
+                fill(pair, begin * kBlock, end * kBlock, columns, columns + stripSize);
+                forEachBlock(HWY_DYNAMIC_DISPATCH(transformColumns));
+            }
+        });
+        if (pair == pairs)
+            break;
+        parallel.run(blocksDown(), [&](int i) {
+            HWY_DYNAMIC_DISPATCH(convolveRows)
+            (m_across, blocksOf(width()), { re + i * step, im + i * step }, kernel + i * step);
+        });
+    }
 }
 
 #endif

@@ -73,6 +73,12 @@ public:
     [[nodiscard]] std::size_t spectrumSize() const { return 2 * kernelSize(); }
     [[nodiscard]] std::size_t kernelSize() const;
 
+    /// Floats from one block of columns to the next.
+    [[nodiscard]] std::ptrdiff_t blockSize() const
+    {
+        return std::ptrdiff_t{ blocksDown() } * kBlock * kBlock;
+    }
+
     /// The kernel's value `dx` columns and `dy` rows from its center, both at least 0.
     using Kernel = std::function<float(int dx, int dy)>;
 
@@ -81,16 +87,18 @@ public:
     void transformKernel(const Kernel &value, int reach, float *spectrum, float *kernel,
         const Parallel &parallel) const;
 
-    /// Fills the block of columns from `x` on, height × kBlock floats a plane, aligned for vectors
-    /// and zero before.
-    using Fill = std::function<void(int x, float *re, float *im)>;
+    /// Fills the blocks of the columns from `begin` to `end`, whole blocks that are blockSize()
+    /// floats from each other: height × kBlock floats a plane, aligned for vectors and zero before.
+    using Fill = std::function<void(int pair, int begin, int end, float *re, float *im)>;
 
-    /// Takes such a block.
-    using Take = std::function<void(int x, const float *re, const float *im)>;
+    /// Takes such blocks.
+    using Take
+        = std::function<void(int pair, int begin, int end, const float *re, const float *im)>;
 
-    /// Convolves what `fill` gives and hands it to `take`. `spectrum` is for work.
-    void convolve(const Fill &fill, const Take &take, float *spectrum, const float *kernel,
-        const Parallel &parallel) const;
+    /// Convolves so many pairs of planes, each as `fill` gives it, and hands them to `take`.
+    /// `spectrum` is for work.
+    void convolve(int pairs, const Fill &fill, const Take &take, float *spectrum,
+        const float *kernel, const Parallel &parallel) const;
 
 private:
     [[nodiscard]] int blocksAcross() const { return (width() + kBlock - 1) / kBlock; }
