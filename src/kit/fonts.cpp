@@ -67,7 +67,7 @@ QFont monospaced(double size, QFont::Weight weight)
 
 void ensureOpen(const QFont &font)
 {
-    std::ignore = QFontMetricsF(font).horizontalAdvance(u'a');
+    std::ignore = QFontMetricsF(font).horizontalAdvance(u"f/2 a"_s);
 }
 
 } // namespace Fonts
