@@ -63,6 +63,29 @@ void blurColumns(Plane &plane, int reach)
     }
 }
 
+// The picture with its middle column and row repeated until it has `size`. It is blurred short,
+// since nothing changes along the middle of a long shape; a nine-patch would show a seam at some
+// zooms.
+QImage lengthened(const QImage &picture, QSize size)
+{
+    if (picture.size() == size)
+        return picture;
+
+    const auto source = [](int at, int length, int whole) {
+        const int middle = whole / 2;
+        return std::min(at, middle) + std::max(0, at - (length - whole) - middle);
+    };
+    QImage result(size, picture.format());
+    for (int y = 0; y < size.height(); ++y) {
+        const auto *from = reinterpret_cast<const QRgb *>(
+            picture.constScanLine(source(y, size.height(), picture.height())));
+        auto *to = reinterpret_cast<QRgb *>(result.scanLine(y));
+        for (int x = 0; x < size.width(); ++x)
+            to[x] = from[source(x, size.width(), picture.width())];
+    }
+    return result;
+}
+
 struct PatchKey {
     QSize size; ///< Of the shape as it is drawn in the picture.
     int cornerRadius;
@@ -122,11 +145,11 @@ ShadowPatch shadowPatch(QSize size, int cornerRadius, int blurRadius, const QCol
 
     // A continuous corner eases over 1.6 radii, and the blur reaches inwards as far as outwards.
     const int corner = int(std::ceil(1.6 * cornerRadius)) + blurRadius;
-    const int shortest = 2 * corner + 1;
-    const QSize shape = size.boundedTo({ shortest, shortest });
-    const auto border = [=](int length) { return length >= shortest ? corner + blurRadius : 0; };
+    const QSize smallest(2 * corner + 1, 2 * corner + 1);
+    const QSize shape = size.boundedTo(smallest);
+    const bool stretches = shape == smallest;
 
-    const PatchKey key{ shape, cornerRadius, blurRadius, color.rgba() };
+    const PatchKey key{ stretches ? smallest : size, cornerRadius, blurRadius, color.rgba() };
     if (const auto found = patches.constFind(key); found != patches.constEnd())
         return *found;
 
@@ -139,8 +162,10 @@ ShadowPatch shadowPatch(QSize size, int cornerRadius, int blurRadius, const QCol
         painter.fillPath(
             continuousPath(QRectF(mask.rect().marginsRemoved(margin)), cornerRadius), Qt::black);
     }
-    const ShadowPatch patch{ softBlur(mask, blurRadius, color),
-        { border(size.width()), border(size.height()) } };
+    const QImage blurred = softBlur(mask, blurRadius, color);
+    const ShadowPatch patch = stretches
+        ? ShadowPatch{ blurred, corner + blurRadius }
+        : ShadowPatch{ lengthened(blurred, size.grownBy(margin)), 0 };
     patches.insert(key, patch);
     return patch;
 }

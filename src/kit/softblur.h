@@ -13,17 +13,15 @@
 /// Returns  the same size, ARGB32_Premultiplied, with the mask's device pixel ratio.
 [[nodiscard]] QImage softBlur(const QImage &mask, double radius, const QColor &color);
 
-/// A blurred rounded rectangle as a picture with borders that must not be stretched.
+/// A blurred rounded rectangle as a picture with a border that must not be stretched.
 struct ShadowPatch {
-    QImage image; ///< Device pixels.
-    /// Device pixels at the left and right, and at the top and bottom. One line between them is
-    /// meant to be stretched; 0 if the picture has the shape's own extent in this direction.
-    QSize border;
+    QImage image;   ///< Device pixels.
+    int border = 0; ///< Device pixels on each side; 0 if the picture fits only its own shape.
 };
 
 /// The shadow of a rounded rectangle of `size`, corners of `cornerRadius`, blurred by
-/// `blurRadius`; all in device pixels. The picture holds `blurRadius` of margin on all sides. It is
-/// a nine-patch: where the shape is long, the picture is short and serves every greater length.
-/// Pictures are kept: asking again costs nothing.
+/// `blurRadius`; all in device pixels. The picture holds `blurRadius` of margin on all sides. For
+/// a large shape it is small and meant to be stretched as a nine-patch, so it serves every large
+/// size; a small shape gets a picture of its own. Pictures are kept: asking again costs nothing.
 [[nodiscard]] ShadowPatch shadowPatch(
     QSize size, int cornerRadius, int blurRadius, const QColor &color);

@@ -5,6 +5,7 @@
 #include "kit/zoom.h"
 
 #include <QQuickWindow>
+#include <QSGImageNode>
 #include <QSGNinePatchNode>
 
 SoftShadow::SoftShadow(QQuickItem *parent)
@@ -72,12 +73,18 @@ QSGNode *SoftShadow::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
 
     QSGTexture *texture = window()->createTextureFromImage(patch.image);
     texture->setFiltering(QSGTexture::Linear);
+    if (patch.border == 0) {
+        QSGImageNode *node = window()->createImageNode();
+        node->setOwnsTexture(true);
+        node->setTexture(texture);
+        node->setRect(reach);
+        return node;
+    }
     QSGNinePatchNode *node = window()->createNinePatchNode();
     node->setTexture(texture); // owned by the node
     node->setBounds(reach);
     node->setDevicePixelRatio(scale);
-    const auto [sides, ends] = patch.border;
-    node->setPadding(sides, ends, sides, ends);
+    node->setPadding(patch.border, patch.border, patch.border, patch.border);
     node->update();
     return node;
 }
