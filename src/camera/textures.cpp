@@ -68,7 +68,7 @@ QImage tinted(QImage picture, const QColor &tint)
 {
     QPainter painter(&picture);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(QRectF({}, picture.deviceIndependentSize()), tint);
+    painter.fillRect(picture.rect(), tint);
     return picture;
 }
 
@@ -78,10 +78,10 @@ QImage grooves(QSizeF size, double scale, double width, double shift, const QCol
 {
     const QSize pixels(qCeil(size.width() * scale), qCeil(size.height() * scale));
     QImage picture(pixels, QImage::Format_ARGB32_Premultiplied);
-    picture.setDevicePixelRatio(scale);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(scale, scale);
     painter.translate(shift, shift);
     painter.strokePath(Textures::knurlPath(size), QPen(Qt::black, width));
     painter.end();
@@ -160,7 +160,7 @@ void paintKnurl(QPainter &painter, QSizeF size)
     painter.save();
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.setClipRect(QRectF({}, size), Qt::IntersectClip);
-    painter.drawImage(QPointF(), picture);
+    painter.drawImage(QRectF({}, QSizeF(picture.size()) / scale), picture);
     painter.restore();
 }
 

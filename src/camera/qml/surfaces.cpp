@@ -204,9 +204,9 @@ void ProgressArc::paint(QPainter *painter)
     const double scale = renderScale();
     QImage mask(textureSize(), QImage::Format_ARGB32_Premultiplied);
     mask.fill(Qt::transparent);
-    mask.setDevicePixelRatio(scale);
     {
         QPainter ink(&mask);
+        ink.scale(scale, scale);
         ink.setRenderHint(QPainter::Antialiasing);
         ink.strokePath(arc, pen);
     }

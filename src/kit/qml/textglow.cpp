@@ -41,7 +41,6 @@ QImage TextGlow::picture()
     QImage mask(textureSize(), QImage::Format_ARGB32_Premultiplied);
     mask.fill(Qt::transparent);
     const double scale = renderScale();
-    mask.setDevicePixelRatio(scale);
 
     QTextLayout layout(m_text, m_font);
     QTextOption option;
@@ -58,6 +57,7 @@ QImage TextGlow::picture()
     layout.endLayout();
     {
         QPainter ink(&mask);
+        ink.scale(scale, scale); // not by a pixel ratio, which a painter ignores below 1
         ink.setPen(Qt::black);
         layout.draw(&ink, { m_blur, m_blur });
     }
