@@ -36,25 +36,6 @@ QUrl stopgapURL()
         HVInfo::dataFolder() + "/My Progress (opened "_L1 + seconds + ").sqlite"_L1);
 }
 
-void openProgress()
-{
-    const QUrl url = HVInfo::databaseURL();
-    try {
-        UserStore::setShared(openProgressFile(url));
-        return;
-    } catch (const HVError &error) {
-        tellLater("Your progress file could not be opened ("_L1 + error.description()
-            + "). It was left untouched at "_L1 + QDir::toNativeSeparators(url.toLocalFile())
-            + ". A new, empty progress file was started instead."_L1);
-    }
-    try {
-        UserStore::setShared(openProgressFile(stopgapURL()));
-    } catch (const HVError &) {
-        // One message is enough: without a store the program still teaches, it only forgets.
-        UserStore::setShared(nullptr);
-    }
-}
-
 } // namespace
 
 namespace HVSetup {
@@ -98,8 +79,21 @@ QList<QFont> firstFonts()
 
 void openStore()
 {
-    openProgress();
-    std::ignore = ContentLibrary::shared();
+    const QUrl url = HVInfo::databaseURL();
+    try {
+        UserStore::setShared(openProgressFile(url));
+        return;
+    } catch (const HVError &error) {
+        tellLater("Your progress file could not be opened ("_L1 + error.description()
+            + "). It was left untouched at "_L1 + QDir::toNativeSeparators(url.toLocalFile())
+            + ". A new, empty progress file was started instead."_L1);
+    }
+    try {
+        UserStore::setShared(openProgressFile(stopgapURL()));
+    } catch (const HVError &) {
+        // One message is enough: without a store the program still teaches, it only forgets.
+        UserStore::setShared(nullptr);
+    }
 }
 
 std::unique_ptr<QThread> indexCourse()

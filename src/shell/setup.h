@@ -22,7 +22,7 @@ void prepare(double scale);
 /// first text is laid out.
 [[nodiscard]] QList<QFont> firstFonts();
 
-/// Opens the progress file as UserStore::shared() and loads ContentLibrary::shared(). Never fails.
+/// Opens the progress file as UserStore::shared(). Never fails.
 ///
 /// A progress file that can't be opened stays as it is, byte for byte, and a new file
 /// "My Progress (opened <seconds since 1970>).sqlite" in the data folder takes its place for this

@@ -11,6 +11,7 @@
 #include "shell/setup.h"
 #include "store/userstore.h"
 
+#include <QLibrary>
 #include <QQmlComponent>
 #include <QTextStream>
 
@@ -133,7 +134,10 @@ void HalvorinApp::start(int &argc, char **argv)
         [this](const QByteArray &token) { bringToFront(token); });
 
     // The engine reads the window's types in a thread of its own, which now and then waits for an
-    // answer of this one. What else takes long is done beside them.
+    // answer of this one. What else takes long is done beside them, first of all the linking of the
+    // largest library that the types come with; the engine finds it by itself if this doesn't.
+    const std::future<bool> templates = std::async(
+        std::launch::async, [] { return QLibrary(u"Qt6QuickTemplates2"_s, 6).load(); });
     std::future<QFont> typeface
         = std::async(std::launch::async, [] { return Fonts::rounded(12.5); });
     std::future<void> preparation = std::async(
