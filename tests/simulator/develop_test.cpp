@@ -1,8 +1,16 @@
+#include "simulator/internal/develop.h"
 #include "simulator/internal/grain.h"
+#include "simulator/internal/layer.h"
+#include "simulator/internal/parallel.h"
 #include "simulator/internal/srgb.h"
+#include "simulator/internal/vectors.h"
 
 #include <gtest/gtest.h>
 
+#include <hwy/aligned_allocator.h>
+
+#include <algorithm>
+#include <bit>
 #include <cmath>
 #include <limits>
 
@@ -97,4 +105,50 @@ TEST(WithGrain, RoundsHalvesAwayFromZeroAndStaysAByte)
     EXPECT_EQ(withGrain(0, -3, -3, 50), 0);
     EXPECT_EQ(withGrain(255, 3, 3, 50), 255);
     EXPECT_EQ(withGrain(10, 0, 2, 10), 17);
+}
+
+TEST(Develop, EncodesEveryLightAsTheTableDoes)
+{
+    // All that isn't black, in short steps, in a picture whose rows end within a vector.
+    constexpr int kWidth = 1021;
+    constexpr int kHeight = 513;
+    constexpr std::uint32_t kFirst = 0x38800000; // 2⁻¹⁴
+    constexpr std::uint32_t kEnd = 0x3F800010;   // a little beyond 1
+    constexpr std::uint32_t kStep = (kEnd - kFirst) / (3 * kWidth * kHeight) + 1;
+    constexpr int kStride = wholeVectors(kWidth);
+    constexpr std::ptrdiff_t kPlane = std::ptrdiff_t{ kStride } * kHeight;
+    const auto light = hwy::AllocateAligned<float>(3 * kPlane);
+    ASSERT_TRUE(light);
+    std::fill_n(light.get(), 3 * kPlane, -1.0F);
+    const Canvas background{ light.get(), kStride, kPlane, 0, 0 };
+    std::uint32_t bits = kFirst;
+    for (int y = 0; y < kHeight; ++y) {
+        for (int x = 0; x < kWidth; ++x) {
+            for (int channel = 0; channel < 3; ++channel, bits += kStep)
+                background.row(channel, y)[x] = std::bit_cast<float>(std::min(bits, kEnd));
+        }
+    }
+
+    QImage nothing(kWidth, kHeight, QImage::Format_ARGB32_Premultiplied);
+    nothing.fill(Qt::transparent);
+    const Layer subject(nothing, 4);
+    const GrainField grain(kWidth, kHeight);
+    QImage picture(kWidth, kHeight, QImage::Format_RGBA8888_Premultiplied);
+    develop({ .background = [&](int, int) { return background; },
+                .mover = {},
+                .moverArea = {},
+                .subject = &subject,
+                .gain = 1 },
+        0, grain, picture, Parallel(1));
+    const auto &table = Srgb::ByteTable::instance();
+    for (int y = 0; y < kHeight; ++y) {
+        const uchar *row = picture.constScanLine(y);
+        for (int x = 0; x < kWidth; ++x) {
+            for (int channel = 0; channel < 3; ++channel) {
+                const float value = background.row(channel, y)[x];
+                ASSERT_EQ(row[4 * x + channel], table.byteOf(value)) << value;
+            }
+            ASSERT_EQ(row[4 * x + 3], 255);
+        }
+    }
 }

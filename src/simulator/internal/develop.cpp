@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <cstring>
 
@@ -45,7 +46,6 @@ namespace hn = hwy::HWY_NAMESPACE;
 
 constexpr hn::CappedTag<float, kWidestVector> kFloats;
 constexpr hn::RebindToSigned<decltype(kFloats)> kInts;
-constexpr hn::Rebind<std::uint8_t, decltype(kFloats)> kBytes;
 using Floats = hn::Vec<decltype(kFloats)>;
 using Ints = hn::Vec<decltype(kInts)>;
 constexpr int kLanes = static_cast<int>(hn::MaxLanes(kFloats));
@@ -60,8 +60,8 @@ HWY_ATTR HWY_INLINE void layOver(
     blue = hn::Add(hn::Load(kFloats, layer[2] + x), hn::Mul(rest, blue));
 }
 
-// Bytes of linear light, by the table of Srgb::ByteTable.
-HWY_ATTR HWY_INLINE Ints encode(Floats linear, const std::int32_t *table)
+// Bytes of linear light, by the table of Srgb::ByteTable; as whole numbers.
+HWY_ATTR HWY_INLINE Floats encodeByTable(Floats linear, const std::int32_t *table)
 {
     using Table = Srgb::ByteTable;
     const Floats limited
@@ -73,17 +73,60 @@ HWY_ATTR HWY_INLINE Ints encode(Floats linear, const std::int32_t *table)
     const Ints from = hn::And(entry, hn::Set(kInts, (1 << Table::kByteShift) - 1));
     // A comparison that holds is −1 in every lane.
     const Ints more = hn::VecFromMask(kInts, hn::Not(hn::Lt(low, from)));
-    return hn::Sub(hn::ShiftRight<Table::kByteShift>(entry), more);
+    return hn::ConvertTo(kFloats, hn::Sub(hn::ShiftRight<Table::kByteShift>(entry), more));
+}
+
+// 255 times the encoded value of linear light, to within Srgb::OctaveCurve::kError. Needs vectors
+// that hold a number for each octave, and isn't used with shorter ones.
+[[maybe_unused]] HWY_ATTR HWY_INLINE Floats curve(Floats linear, const float *octaves)
+{
+    using Curve = Srgb::OctaveCurve;
+    const Floats limited = hn::Min(hn::Max(linear, hn::Zero(kFloats)), hn::Set(kFloats, 1.0F));
+    const Ints bits = hn::BitCast(kInts, limited);
+    const Ints octave
+        = hn::And(hn::ShiftRight<Curve::kMantissaBits>(bits), hn::Set(kInts, Curve::kOctaves - 1));
+    const Floats scale
+        = hn::TableLookupLanes(hn::LoadU(kFloats, octaves), hn::IndicesFromVec(kFloats, octave));
+    const Floats mantissa = hn::BitCast(kFloats,
+        hn::Or(hn::And(bits, hn::Set(kInts, (1 << Curve::kMantissaBits) - 1)),
+            hn::BitCast(kInts, hn::Set(kFloats, 1.0F))));
+    Floats power = hn::Set(kFloats, Curve::kPower[0]);
+    for (std::size_t i = 1; i < Curve::kPower.size(); ++i)
+        power = hn::MulAdd(power, mantissa, hn::Set(kFloats, Curve::kPower[i]));
+    return hn::IfThenElse(hn::Lt(limited, hn::Set(kFloats, Curve::kLinearEnd)),
+        hn::Mul(limited, hn::Set(kFloats, Curve::kSlope)),
+        hn::MulAdd(scale, power, hn::Set(kFloats, Curve::kOffset)));
+}
+
+// The table's bytes. Long vectors compute the curve, which is quicker than gathering entries, and
+// leave to the table what is too close to call.
+HWY_ATTR HWY_INLINE void encode(
+    const Floats (&linear)[3], const std::int32_t *table, const float *octaves, Floats (&bytes)[3])
+{
+    using Curve = Srgb::OctaveCurve;
+    if constexpr (kLanes >= Curve::kOctaves) {
+        Floats farthest = hn::Zero(kFloats);
+        for (int channel = 0; channel < 3; ++channel) {
+            const Floats value = curve(linear[channel], octaves);
+            bytes[channel] = hn::Round(value);
+            farthest = hn::Max(farthest, hn::Abs(hn::Sub(value, bytes[channel])));
+        }
+        if (hn::AllFalse(kFloats, hn::Gt(farthest, hn::Set(kFloats, 0.5F - Curve::kError))))
+            return;
+    }
+    for (int channel = 0; channel < 3; ++channel)
+        bytes[channel] = encodeByTable(linear[channel], table);
 }
 
 // How far single precision may be from the exact value of a grainy byte before its rounding. The
-// grain stays within 5 · sigma, in which four roundings count, and two in its sum with a byte; each
+// grain stays within 5 · sigma, in which four roundings count, and one in its sum with a byte; each
 // is by 2⁻²⁴ = 6·10⁻⁸ at most.
 float uncertainty(double sigma)
 {
-    return static_cast<float>((2 * 256 + 6 * 5 * sigma) * 1e-7);
+    return static_cast<float>((256 + 5 * 5 * sigma) * 1e-7);
 }
 
+// Adds grain to bytes.
 struct Grain {
     const GrainField &field;
     double sigma;
@@ -99,42 +142,78 @@ struct Grain {
         , doubt(hn::Set(kFloats, 0.5F - uncertainty(strength)))
     { }
 
-    // Adds the grain to one channel's bytes. Where a rounding was too close to call, `doubtful` is
-    // set.
-    HWY_ATTR HWY_INLINE Ints add(Ints bytes, Floats ownBrightness, Floats ownColor,
-        hn::Mask<decltype(kFloats)> &doubtful) const
+    // Limited before they are rounded: what is out of range is never in doubt.
+    HWY_ATTR HWY_INLINE void add(Floats (&bytes)[3],
+        const std::array<const float *, GrainField::kPlanes> &noise, int x, int y, int width) const
     {
-        const Floats value = hn::Add(hn::ConvertTo(kFloats, bytes),
-            hn::Add(hn::Mul(brightness, ownBrightness), hn::Mul(color, ownColor)));
-        const Floats shifted = hn::Add(value, hn::Set(kFloats, 0.5F));
-        const Floats rounded = hn::Floor(shifted);
-        const Floats fromMiddle
-            = hn::Abs(hn::Sub(hn::Sub(shifted, rounded), hn::Set(kFloats, 0.5F)));
-        doubtful = hn::Gt(fromMiddle, doubt);
-        const Floats limited
-            = hn::Min(hn::Max(rounded, hn::Zero(kFloats)), hn::Set(kFloats, 255.0F));
-        return hn::ConvertTo(kInts, limited);
+        const Floats own = hn::Mul(brightness, hn::Load(kFloats, noise[0] + x));
+        Floats grainy[3];
+        Floats farthest = hn::Zero(kFloats);
+        for (int channel = 0; channel < 3; ++channel) {
+            const Floats ownColor = hn::Mul(
+                color, hn::Load(kFloats, noise[static_cast<std::size_t>(channel) + 1] + x));
+            const Floats value = hn::Min(
+                hn::Max(hn::Add(bytes[channel], hn::Add(own, ownColor)), hn::Zero(kFloats)),
+                hn::Set(kFloats, 255.0F));
+            grainy[channel] = hn::Round(value);
+            farthest = hn::Max(farthest, hn::Abs(hn::Sub(value, grainy[channel])));
+        }
+        const auto doubtful = hn::Gt(farthest, doubt);
+        if (!hn::AllFalse(kFloats, doubtful)) {
+            const Channels before{ bytes };
+            Channels exact{ grainy };
+            addExactly(before, doubtful, x, y, width, exact);
+            exact.load(grainy);
+        }
+        for (int channel = 0; channel < 3; ++channel)
+            bytes[channel] = grainy[channel];
+    }
+
+private:
+    // In memory, for the call below. Vectors that it had the address of would never be registers.
+    struct Channels {
+        HWY_ALIGN float values[3][kLanes];
+
+        HWY_ATTR HWY_INLINE explicit Channels(const Floats (&vectors)[3])
+        {
+            for (int channel = 0; channel < 3; ++channel)
+                hn::Store(vectors[channel], kFloats, values[channel]);
+        }
+
+        HWY_ATTR HWY_INLINE void load(Floats (&vectors)[3]) const
+        {
+            for (int channel = 0; channel < 3; ++channel)
+                vectors[channel] = hn::Load(kFloats, values[channel]);
+        }
+    };
+
+    // Recomputes the doubtful pixels from the bytes without grain.
+    HWY_ATTR HWY_NOINLINE void addExactly(const Channels &bytes,
+        hn::Mask<decltype(kFloats)> doubtful, int x, int y, int width, Channels &grainy) const
+    {
+        HWY_ALIGN std::int32_t again[kLanes];
+        hn::Store(hn::VecFromMask(kInts, hn::RebindMask(kInts, doubtful)), kInts, again);
+        for (int lane = 0; lane < kLanes && x + lane < width; ++lane) {
+            if (again[lane] == 0)
+                continue;
+            const auto values = field.exact(x + lane, y);
+            for (int channel = 0; channel < 3; ++channel) {
+                grainy.values[channel][lane]
+                    = static_cast<float>(withGrain(static_cast<int>(bytes.values[channel][lane]),
+                        values[0], values[static_cast<std::size_t>(channel) + 1], sigma));
+            }
+        }
     }
 };
 
-// The bytes with grain; the doubtful ones are recomputed exactly from those before it.
-HWY_ATTR HWY_NOINLINE Ints addExactly(const Grain &grain, Ints before, Ints after,
-    hn::Mask<decltype(kFloats)> doubtful, int channel, int x, int y, int width)
+static_assert(std::endian::native == std::endian::little);
+
+// Opaque pixels, red in the lowest byte. A float holds the three bytes exactly as one number.
+HWY_ATTR HWY_INLINE Ints packed(const Floats (&bytes)[3])
 {
-    HWY_ALIGN std::int32_t bytes[kLanes];
-    HWY_ALIGN std::int32_t again[kLanes];
-    HWY_ALIGN std::int32_t exact[kLanes];
-    hn::Store(before, kInts, bytes);
-    hn::Store(hn::VecFromMask(kInts, hn::RebindMask(kInts, doubtful)), kInts, again);
-    hn::Store(after, kInts, exact);
-    for (int lane = 0; lane < kLanes && x + lane < width; ++lane) {
-        if (again[lane] == 0)
-            continue;
-        const auto values = grain.field.exact(x + lane, y);
-        exact[lane] = withGrain(
-            bytes[lane], values[0], values[static_cast<std::size_t>(channel) + 1], grain.sigma);
-    }
-    return hn::Load(kInts, exact);
+    const Floats upper = hn::MulAdd(bytes[2], hn::Set(kFloats, 256.0F), bytes[1]);
+    const Floats color = hn::MulAdd(upper, hn::Set(kFloats, 256.0F), bytes[0]);
+    return hn::Or(hn::ConvertTo(kInts, color), hn::Set(kInts, -1 << 24));
 }
 
 } // namespace
@@ -142,13 +221,13 @@ HWY_ATTR HWY_NOINLINE Ints addExactly(const Grain &grain, Ints before, Ints afte
 HWY_ATTR void developRow(const DevelopRow &row)
 {
     const std::int32_t *table = Srgb::ByteTable::instance().entries();
+    const float *octaves = Srgb::OctaveCurve::instance().octaves();
     const Floats gain = hn::Set(kFloats, row.gain);
     const bool grainy = row.sigma > 0.01;
     const Grain grain(*row.grain, row.sigma);
     std::array<const float *, GrainField::kPlanes> noise;
     for (int plane = 0; plane < GrainField::kPlanes; ++plane)
         noise[static_cast<std::size_t>(plane)] = row.grain->row(plane, row.y);
-    const auto opaque = hn::Set(kBytes, 255);
 
     for (int x = 0; x < row.width; x += kLanes) {
         Floats red = hn::Load(kFloats, row.background[0] + x);
@@ -159,34 +238,20 @@ HWY_ATTR void developRow(const DevelopRow &row)
         if (x >= row.subjectBegin && x < row.subjectEnd)
             layOver(row.subject, x, red, green, blue);
 
-        Ints bytes[3] = { encode(hn::Mul(red, gain), table), encode(hn::Mul(green, gain), table),
-            encode(hn::Mul(blue, gain), table) };
-        if (grainy) {
-            const Floats brightness = hn::Load(kFloats, noise[0] + x);
-            for (int channel = 0; channel < 3; ++channel) {
-                const Ints before = bytes[channel];
-                const Floats color
-                    = hn::Load(kFloats, noise[static_cast<std::size_t>(channel) + 1] + x);
-                hn::Mask<decltype(kFloats)> doubtful;
-                bytes[channel] = grain.add(before, brightness, color, doubtful);
-                if (!hn::AllFalse(kFloats, doubtful)) {
-                    bytes[channel] = addExactly(
-                        grain, before, bytes[channel], doubtful, channel, x, row.y, row.width);
-                }
-            }
-        }
+        const Floats linear[3] = { hn::Mul(red, gain), hn::Mul(green, gain), hn::Mul(blue, gain) };
+        Floats bytes[3];
+        encode(linear, table, octaves, bytes);
+        if (grainy)
+            grain.add(bytes, noise, x, row.y, row.width);
 
-        const auto redBytes = hn::DemoteTo(kBytes, bytes[0]);
-        const auto greenBytes = hn::DemoteTo(kBytes, bytes[1]);
-        const auto blueBytes = hn::DemoteTo(kBytes, bytes[2]);
+        const Ints pixels = packed(bytes);
+        uchar *out = row.out + 4 * std::ptrdiff_t{ x };
         if (x + kLanes <= row.width) {
-            hn::StoreInterleaved4(
-                redBytes, greenBytes, blueBytes, opaque, kBytes, row.out + 4 * std::ptrdiff_t{ x });
+            hn::StoreU(pixels, kInts, reinterpret_cast<std::int32_t *>(out));
         } else {
-            HWY_ALIGN uchar rest[4 * kLanes];
-            hn::StoreInterleaved4(redBytes, greenBytes, blueBytes, opaque, kBytes, rest);
-            std::memcpy(row.out + 4 * std::ptrdiff_t{ x }, rest,
-                static_cast<std::size_t>(4 * (row.width - x)));
+            HWY_ALIGN std::int32_t rest[kLanes];
+            hn::Store(pixels, kInts, rest);
+            std::memcpy(out, rest, static_cast<std::size_t>(4 * (row.width - x)));
         }
     }
 }
