@@ -1,5 +1,6 @@
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "simulator/internal/fourier.cpp"
+#include <hwy/cache_control.h>
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
@@ -8,7 +9,6 @@
 #include "simulator/internal/scratch.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstring>
 #include <numbers>
@@ -314,7 +314,7 @@ HWY_ATTR void convolvePass(const FourierPlan::Pass &firstBack, const float *kern
     }
 }
 
-// Calls work with the radix as its template argument.
+// Calls `work` with the radix as a constant.
 template <typename Work>
 void withRadix(int radix, const Work &work)
 {
@@ -340,14 +340,19 @@ void withRadix(int radix, const Work &work)
     }
 }
 
-// The passes in turn, the first of which finds `done` terms transformed together. From blocks.a to
-// blocks.b, which then change places.
+// A pass of whatever radix, before which `done` terms are transformed together.
+void transformPass(
+    const FourierPlan::Pass &pass, int done, const FourierBlock &in, const FourierBlock &out)
+{
+    withRadix(pass.radix,
+        [&]<int R>(std::integral_constant<int, R>) { transformPass<R>(pass, done, in, out); });
+}
+
+// Passes in turn, from blocks.a to blocks.b, which then change places.
 void transform(std::span<const FourierPlan::Pass> passes, int done, FourierBlocks &blocks)
 {
     for (const FourierPlan::Pass &pass : passes) {
-        withRadix(pass.radix, [&]<int R>(std::integral_constant<int, R>) {
-            transformPass<R>(pass, done, blocks.a, blocks.b);
-        });
+        transformPass(pass, done, blocks.a, blocks.b);
         std::swap(blocks.a, blocks.b);
         done *= pass.radix;
     }
@@ -435,59 +440,78 @@ void takeRows(const float *block, int columns, float *const *rows)
     }
 }
 
-// Copies columns of the picture to the torus, where they go on with the picture's edges.
-void fillColumns(const float *in, int rows, int reach, float *out, int length)
+// A plane's part of blocks of the spectrum's rows that are `step` floats from each other, as
+// columns. Above and below the picture the torus repeats its edges.
+void fillColumns(
+    const float *in, std::ptrdiff_t step, int rows, int reach, float *columns, int length)
 {
-    out = std::copy_n(in, rows * kBlock, out);
+    const int bands = blocksOf(rows);
+    for (int i = 0; i < bands; ++i) {
+        // The processor doesn't see from one block that the next one follows.
+        const float *next = in + std::min(i + 1, bands - 1) * step;
+        for (int y = 0; y < kBlock; ++y)
+            hwy::Prefetch(next + y * kBlock);
+        transposeBlock(in + i * step, columns + i * kSquare);
+    }
+    const float *last = columns + (rows - 1) * kBlock;
     for (int y = rows; y < length; ++y)
-        out = std::copy_n(in + (y < length - reach ? rows - 1 : 0) * kBlock, kBlock, out);
+        std::copy_n(y < length - reach ? last : columns, kBlock, columns + y * kBlock);
+}
+
+// The picture's rows back into the spectrum.
+void takeColumns(const float *columns, int rows, float *out, std::ptrdiff_t step)
+{
+    for (int i = 0; i < blocksOf(rows); ++i)
+        transposeBlock(columns + i * kSquare, out + i * step);
 }
 
 } // namespace
 
-// Across rows of two planes, of which the first blocks of columns are given and the rest is zero.
-// Blocks of the transform's columns come out, `step` floats from each other.
+// Across a block of two planes' rows, of which the first blocks of columns are given and the rest
+// is zero.
 HWY_ATTR void transformRows(const FourierPlan &across, FourierBlocks blocks,
-    const FourierRows &rows, int given, const FourierBlock &out, std::ptrdiff_t step)
+    const FourierRows &rows, int given, const FourierBlock &out)
 {
     const int columns = across.length();
     for (int i = 0; i < given; ++i) {
+        // Rows lie on pages of their own, more of them than the processor looks ahead on.
+        for (int y = 0; y < kBlock; ++y) {
+            hwy::Prefetch(rows.re[y] + (i + 2) * kBlock);
+            hwy::Prefetch(rows.im[y] + (i + 2) * kBlock);
+        }
         transposeBlock(rows.re, i * kBlock, blocks.a.re + i * kSquare);
         transposeBlock(rows.im, i * kBlock, blocks.a.im + i * kSquare);
     }
-    for (float *const part : { blocks.a.re, blocks.a.im }) {
-        if (given * kBlock < columns)
+    if (given * kBlock < columns) {
+        for (float *const part : { blocks.a.re, blocks.a.im })
             std::fill(part + given * kSquare, part + columns * kBlock, 0.0F);
     }
-    transform(across.passes(), 1, blocks);
-    for (const auto &[from, to] :
-        { std::pair{ blocks.a.re, out.re }, std::pair{ blocks.a.im, out.im } }) {
-        const int count = blocksOf(columns);
-        std::fill(from + columns * kBlock, from + count * kSquare, 0.0F);
-        for (int i = 0; i < count; ++i)
-            transposeBlock(from + i * kSquare, to + i * step);
-    }
+    const std::span passes(across.passes());
+    transform(passes.first(passes.size() - 1), 1, blocks);
+    transformPass(passes.back(), columns / passes.back().radix, blocks.a, out);
+    // The last block's lanes beyond the torus are computed with, and must not grow.
+    for (float *const part : { out.re, out.im })
+        std::fill(part + columns * kBlock, part + blocksOf(columns) * kSquare, 0.0F);
 }
 
 // The way back, to the columns from `first` on.
 HWY_ATTR void transformRowsBack(const FourierPlan &across, FourierBlocks blocks,
-    const FourierBlock &in, std::ptrdiff_t step, int first, int columns, const FourierTargets &rows)
+    const FourierBlock &in, int first, int columns, const FourierTargets &rows)
 {
-    for (int i = 0; i < blocksOf(across.length()); ++i) {
-        transposeBlock(in.re + i * step, blocks.a.re + i * kSquare);
-        transposeBlock(in.im + i * step, blocks.a.im + i * kSquare);
-    }
-    transformBack(across.passes(), 1, blocks);
+    const std::span passes(across.passes());
+    transformPass(passes.front(), 1, swapped(in), swapped(blocks.a));
+    transformBack(passes.subspan(1), passes.front().radix, blocks);
     takeRows(blocks.a.re + first * kBlock, columns, rows.re);
     takeRows(blocks.a.im + first * kBlock, columns, rows.im);
 }
 
-// Down a block of a picture's columns and, multiplied with the kernel, back again.
+// Down a block of columns and, multiplied with the kernel, back again.
 HWY_ATTR void convolveColumns(const FourierPlan &down, const FourierPlan &back,
-    FourierBlocks blocks, const FourierBlock &columns, int rows, int reach, const float *kernel)
+    FourierBlocks blocks, const FourierBlock &spectrum, std::ptrdiff_t step, int rows, int reach,
+    const float *kernel)
 {
-    fillColumns(columns.re, rows, reach, blocks.a.re, down.length());
-    fillColumns(columns.im, rows, reach, blocks.a.im, down.length());
+    fillColumns(spectrum.re, step, rows, reach, blocks.a.re, down.length());
+    fillColumns(spectrum.im, step, rows, reach, blocks.a.im, down.length());
     const std::span passes(down.passes());
     const std::span passesBack(back.passes());
     transform(passes.first(passes.size() - 1), 1, blocks);
@@ -497,8 +521,8 @@ HWY_ATTR void convolveColumns(const FourierPlan &down, const FourierPlan &back,
     });
     std::swap(blocks.a, blocks.b);
     transformBack(passesBack.subspan(1), middle.radix, blocks);
-    std::copy_n(blocks.a.re, rows * kBlock, columns.re);
-    std::copy_n(blocks.a.im, rows * kBlock, columns.im);
+    takeColumns(blocks.a.re, rows, spectrum.re, step);
+    takeColumns(blocks.a.im, rows, spectrum.im, step);
 }
 
 // Across two blocks of a kernel's rows at once, blocks.a: they are real and symmetric, and so are
@@ -561,27 +585,27 @@ FourierPlan::FourierPlan(int length, Order order)
         return { static_cast<float>(std::cos(angle)), static_cast<float>(std::sin(angle)) };
     };
     // Few long passes rather than many short ones: most of the time goes into memory.
-    constexpr std::array radices{ 10, 9, 8, 6, 5, 4, 3, 2 };
-    for (int left = length; left > 1;) {
-        const auto *const radix = std::ranges::find_if(
-            radices, [left](int candidate) { return left % candidate == 0; });
-        HWY_DASSERT(radix != radices.end());
-        left /= *radix;
-        m_passes.push_back({ .radix = *radix, .count = 1, .factors = {} });
-    }
-    // A single term is its own transform; the pass copies it.
-    if (m_passes.empty())
-        m_passes.push_back({ .radix = 1, .count = 1, .factors = {} });
-    if (order == SmallestFirst)
-        std::ranges::reverse(m_passes);
+    std::vector<int> radices;
     int left = length;
-    for (Pass &pass : m_passes) {
-        pass.count = left / pass.radix;
+    for (const int radix : { 10, 9, 8, 6, 5, 4, 3, 2 }) {
+        for (; left % radix == 0; left /= radix)
+            radices.push_back(radix);
+    }
+    HWY_DASSERT(left == 1);
+    // A single term is its own transform; the pass copies it.
+    if (radices.empty())
+        radices.push_back(1);
+    if (order == SmallestFirst)
+        std::ranges::reverse(radices);
+    left = length;
+    for (const int radix : radices) {
+        Pass pass{ .radix = radix, .count = left / radix, .factors = {} };
         for (int sum = 0; sum < pass.count; ++sum) {
-            for (int term = 1; term < pass.radix; ++term)
+            for (int term = 1; term < radix; ++term)
                 pass.factors.push_back(root(sum * term, left));
         }
         left = pass.count;
+        m_passes.push_back(std::move(pass));
     }
 }
 
@@ -670,15 +694,16 @@ void FourierConvolution::convolve(int pairs, const Source &source, const Target 
 {
     const int bands = blocksOf(m_rows);
     const int given = blocksOf(m_columns + 2 * m_reach);
-    // A block of the transform's columns after the other, its real parts before its imaginary ones.
-    const std::ptrdiff_t plane = bands * kSquare;
+    // A block of rows after the other, its real parts before its imaginary ones.
+    const std::ptrdiff_t plane = blocksOf(m_across.length()) * kSquare;
     const std::ptrdiff_t step = 2 * plane;
     for (int pair = 0; pair <= pairs; ++pair) {
         // Where a pair's rows have left the spectrum, those of the next one take their place.
         parallel.run(bands, [&](int band) {
             const int top = band * kBlock;
             const int count = std::min(kBlock, m_rows - top);
-            const FourierBlock part{ spectrum + band * kSquare, spectrum + plane + band * kSquare };
+            float *memory = spectrum + band * step;
+            const FourierBlock part{ memory, memory + plane };
             const FourierBlocks blocks = scratchBlocks(m_across.length());
             if (pair > 0) {
                 FourierTargets rows{};
@@ -687,7 +712,7 @@ void FourierConvolution::convolve(int pairs, const Source &source, const Target 
                     rows.im[y] = target(2 * pair - 1, top + y);
                 }
                 HWY_DYNAMIC_DISPATCH(transformRowsBack)
-                (m_across, blocks, part, step, m_reach, m_columns, rows);
+                (m_across, blocks, part, m_reach, m_columns, rows);
             }
             if (pair < pairs) {
                 FourierRows rows{};
@@ -698,16 +723,16 @@ void FourierConvolution::convolve(int pairs, const Source &source, const Target 
                     rows.re[y] = re != nullptr ? re : zeros;
                     rows.im[y] = im != nullptr ? im : zeros;
                 }
-                HWY_DYNAMIC_DISPATCH(transformRows)(m_across, blocks, rows, given, part, step);
+                HWY_DYNAMIC_DISPATCH(transformRows)(m_across, blocks, rows, given, part);
             }
         });
         if (pair == pairs)
             break;
         parallel.run(blocksOf(m_across.length()), [&](int i) {
-            float *columns = spectrum + i * step;
+            float *columns = spectrum + i * kSquare;
             HWY_DYNAMIC_DISPATCH(convolveColumns)
-            (m_down, m_back, scratchBlocks(m_down.length()), { columns, columns + plane }, m_rows,
-                m_reach, kernel + i * kernelStep());
+            (m_down, m_back, scratchBlocks(m_down.length()), { columns, columns + plane }, step,
+                m_rows, m_reach, kernel + i * kernelStep());
         });
     }
 }
