@@ -208,92 +208,75 @@ TEST(FourierPlan, FindsLengthsOfTwosThreesAndFives)
     EXPECT_EQ(FourierPlan::lengthFor(217), 225);
 }
 
-TEST(FourierConvolution, ConvolvesOnATorusOfAnyLengths)
+TEST(FourierConvolution, ConvolvesPicturesOfAnySize)
 {
-    // Each radix, alone and after others, lengths of one and lengths within a block.
-    for (const QSize size :
-        { QSize(1, 1), QSize(2, 3), QSize(4, 5), QSize(6, 8), QSize(9, 10), QSize(16, 18),
-            QSize(30, 32), QSize(45, 64), QSize(81, 100), QSize(120, 75), QSize(36, 250) }) {
-        const int width = size.width();
-        const int height = size.height();
-        const FourierConvolution torus(width, height);
+    // Tori of each radix, alone and after others, lengths of one and lengths within a block, and
+    // some that are longer than they need be.
+    for (const QSize size : { QSize(1, 1), QSize(2, 3), QSize(4, 5), QSize(6, 8), QSize(9, 10),
+             QSize(16, 18), QSize(30, 32), QSize(45, 64), QSize(81, 100), QSize(120, 75),
+             QSize(36, 250), QSize(37, 49), QSize(71, 33) }) {
+        const int reach = std::min({ 2, (size.width() - 1) / 2, (size.height() - 1) / 2 });
+        const int width = size.width() - 2 * reach;
+        const int height = size.height() - 2 * reach;
+        const FourierConvolution convolution(width, height, reach);
         std::mt19937 generator(3);
         std::uniform_real_distribution<float> random(0, 1);
-        const auto count = static_cast<std::size_t>(width * height);
-        std::vector<float> first(count);
-        std::vector<float> second(count);
-        for (std::size_t i = 0; i < count; ++i) {
-            first[i] = random(generator);
-            second[i] = random(generator);
+
+        // Rows with their edges and the floats that may be read behind them.
+        const int stride = size.width() + FourierConvolution::kBlock;
+        std::array<std::vector<float>, 2> planes;
+        for (std::vector<float> &plane : planes) {
+            plane.resize(static_cast<std::size_t>(stride * height));
+            std::ranges::generate(plane, [&] { return random(generator); });
         }
-        const int reach = std::min({ 2, (width - 1) / 2, (height - 1) / 2 });
+        const int dark = height / 2; // of the first plane
+        std::fill_n(planes[0].begin() + std::ptrdiff_t{ dark } * stride, stride, 0.0F);
         const auto kernel = [reach](int dx, int dy) {
             return dx <= reach && dy <= reach ? 1.0F / static_cast<float>(1 + dx + 2 * dy) : 0.0F;
         };
 
         Workspace workspace;
-        float *spectrum = workspace.floats(Workspace::Spectrum, torus.spectrumSize());
-        float *transformed = workspace.floats(Workspace::KernelSpectrum, torus.kernelSize());
-        std::generate_n(spectrum, torus.spectrumSize(), [&] { return random(generator); });
+        float *spectrum = workspace.floats(Workspace::Spectrum, convolution.spectrumSize());
+        float *transformed = workspace.floats(Workspace::KernelSpectrum, convolution.kernelSize());
+        std::generate_n(spectrum, convolution.spectrumSize(), [&] { return random(generator); });
         const Parallel parallel(2);
-        torus.transformKernel(kernel, reach, spectrum, transformed, parallel);
-        std::array<std::vector<float>, 2> firstOut;
-        std::array<std::vector<float>, 2> secondOut;
-        for (auto *const out : { &firstOut, &secondOut }) {
-            for (std::vector<float> &plane : *out)
-                plane.resize(count);
-        }
-        constexpr int kBlock = FourierConvolution::kBlock;
-        const auto columnOf
-            = [&torus](int x) { return x / kBlock * torus.blockSize() + x % kBlock; };
-        const auto index
-            = [width](int x, int y) { return static_cast<std::size_t>(y * width + x); };
+        convolution.transformKernel(kernel, transformed, parallel);
         // The pair, and once more with its planes exchanged.
-        torus.convolve(
+        const auto planeOf
+            = [](int plane) { return static_cast<std::size_t>(plane < 2 ? plane : 3 - plane); };
+        std::array<std::vector<float>, 4> out;
+        for (std::vector<float> &plane : out)
+            plane.resize(static_cast<std::size_t>(width * height));
+        convolution.convolve(
             2,
-            [&](int pair, int begin, int end, float *re, float *im) {
-                if (pair == 1)
-                    std::swap(re, im);
-                for (int x = begin; x < std::min(end, width); ++x) {
-                    const std::ptrdiff_t column = columnOf(x - begin);
-                    for (int y = 0; y < height; ++y) {
-                        re[column + y * kBlock] = first[index(x, y)];
-                        im[column + y * kBlock] = second[index(x, y)];
-                    }
-                }
+            [&](int plane, int y) {
+                return planeOf(plane) == 0 && y == dark
+                    ? nullptr
+                    : planes[planeOf(plane)].data() + std::ptrdiff_t{ y } * stride;
             },
-            [&](int pair, int begin, int end, const float *re, const float *im) {
-                if (pair == 1)
-                    std::swap(re, im);
-                for (int x = begin; x < std::min(end, width); ++x) {
-                    const std::ptrdiff_t column = columnOf(x - begin);
-                    for (int y = 0; y < height; ++y) {
-                        firstOut[static_cast<std::size_t>(pair)][index(x, y)]
-                            = re[column + y * kBlock];
-                        secondOut[static_cast<std::size_t>(pair)][index(x, y)]
-                            = im[column + y * kBlock];
-                    }
-                }
+            [&](int plane, int y) {
+                return out[static_cast<std::size_t>(plane)].data() + std::ptrdiff_t{ y } * width;
             },
             spectrum, transformed, parallel);
 
-        for (int y = 0; y < height; ++y) {
-            for (int x = 0; x < width; ++x) {
-                double expectedFirst = 0;
-                double expectedSecond = 0;
-                for (int dy = -reach; dy <= reach; ++dy) {
-                    for (int dx = -reach; dx <= reach; ++dx) {
-                        const auto from
-                            = index((x + dx + width) % width, (y + dy + height) % height);
-                        const double weight = double{ kernel(std::abs(dx), std::abs(dy)) };
-                        expectedFirst += weight * double{ first[from] };
-                        expectedSecond += weight * double{ second[from] };
+        for (int plane = 0; plane < 4; ++plane) {
+            for (int y = 0; y < height; ++y) {
+                for (int x = 0; x < width; ++x) {
+                    double expected = 0;
+                    for (int dy = -reach; dy <= reach; ++dy) {
+                        const int from = std::clamp(y + dy, 0, height - 1) * stride + x + reach;
+                        for (int dx = -reach; dx <= reach; ++dx) {
+                            expected += double{ kernel(std::abs(dx), std::abs(dy)) }
+                                * double{
+                                      planes[planeOf(plane)][static_cast<std::size_t>(from + dx)]
+                                  };
+                        }
                     }
+                    ASSERT_NEAR(out[static_cast<std::size_t>(plane)]
+                                   [static_cast<std::size_t>(y * width + x)],
+                        expected, 1e-5)
+                        << size.width() << 'x' << size.height() << ", plane " << plane;
                 }
-                for (const auto &plane : firstOut)
-                    ASSERT_NEAR(plane[index(x, y)], expectedFirst, 1e-5) << width << 'x' << height;
-                for (const auto &plane : secondOut)
-                    ASSERT_NEAR(plane[index(x, y)], expectedSecond, 1e-5) << width << 'x' << height;
             }
         }
     }

@@ -13,7 +13,6 @@
 #include "simulator/internal/workspace.h"
 
 #include <algorithm>
-#include <cstring>
 #include <type_traits>
 
 HWY_BEFORE_NAMESPACE();
@@ -412,57 +411,25 @@ void DiscBlur::applyInBands(
 void DiscBlur::applyByTransform(const Layer &layer, const QRect &area, const Canvas &out,
     Workspace &workspace, const Parallel &parallel) const
 {
-    constexpr int kBlock = FourierConvolution::kBlock;
     const int cuts = layer.channels() % 2 + 1;
     const int width = wholeVectors(area.width()) / cuts;
-    const FourierConvolution torus(FourierPlan::lengthFor(width + 2 * reach()),
-        FourierPlan::lengthFor(area.height() + 2 * reach()));
+    const FourierConvolution torus(width, area.height(), reach());
     float *spectrum = workspace.floats(Workspace::Spectrum, torus.spectrumSize());
     float *kernel = workspace.floats(Workspace::KernelSpectrum, torus.kernelSize());
 
     const auto weight
         = [this](int dx, int dy) { return static_cast<float>(m_kernel.weight(dx, dy)); };
-    torus.transformKernel(weight, reach(), spectrum, kernel, parallel);
+    torus.transformKernel(weight, kernel, parallel);
 
-    // The torus's pixel (0, 0) is the corner of all that the plane's blur depends on.
-    const int top = area.top() - reach();
-    const auto fillPlane = [&](int plane, int begin, int end, float *columns) {
-        const int left = area.left() + plane % cuts * width - reach();
-        // The layer's margin holds what the last block needs beyond the area.
-        end = std::min(end, width + 2 * reach());
-        for (int y = 0; y < area.height() + 2 * reach(); ++y) {
-            const float *row = layer.litRow(plane / cuts, top + y);
-            if (row == nullptr)
-                continue;
-            float *target = columns + y * kBlock;
-            for (int x = begin; x < end; x += kBlock, target += torus.blockSize())
-                std::memcpy(target, row + left + x, kBlock * sizeof(float));
-        }
+    // The layer's margin holds what the torus's rows need beyond the area.
+    const auto source = [&](int plane, int y) {
+        const float *row = layer.litRow(plane / cuts, area.top() + y);
+        return row != nullptr ? row + area.left() + plane % cuts * width - reach() : nullptr;
     };
-    const auto takePlane = [&](int plane, int begin, int end, const float *columns) {
-        const int left = plane % cuts * width - reach();
-        for (int y = 0; y < area.height(); ++y) {
-            float *target = out.row(plane / cuts, area.top() + y) + left;
-            const float *row = columns + (y + reach()) * kBlock;
-            for (int x = begin; x < end; x += kBlock, row += torus.blockSize()) {
-                const int from = std::max(reach() - x, 0);
-                const int to = std::min(kBlock, width + reach() - x);
-                if (from == 0 && to == kBlock)
-                    std::memcpy(target + x, row, kBlock * sizeof(float));
-                else if (from < to)
-                    std::copy(row + from, row + to, target + x + from);
-            }
-        }
+    const auto target = [&](int plane, int y) {
+        return out.row(plane / cuts, area.top() + y) + plane % cuts * width;
     };
-    const auto fill = [&](int pair, int begin, int end, float *re, float *im) {
-        fillPlane(2 * pair, begin, end, re);
-        fillPlane(2 * pair + 1, begin, end, im);
-    };
-    const auto take = [&](int pair, int begin, int end, const float *re, const float *im) {
-        takePlane(2 * pair, begin, end, re);
-        takePlane(2 * pair + 1, begin, end, im);
-    };
-    torus.convolve(layer.channels() * cuts / 2, fill, take, spectrum, kernel, parallel);
+    torus.convolve(layer.channels() * cuts / 2, source, target, spectrum, kernel, parallel);
 }
 
 #endif

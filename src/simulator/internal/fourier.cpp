@@ -1,5 +1,6 @@
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "simulator/internal/fourier.cpp"
+#include <hwy/cache_control.h>
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>
 
@@ -8,11 +9,51 @@
 #include "simulator/internal/scratch.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstring>
 #include <numbers>
+#include <span>
+#include <type_traits>
 #include <utility>
+
+#ifndef HV_FOURIER_BLOCKS
+#define HV_FOURIER_BLOCKS
+namespace {
+
+constexpr int kBlock = FourierConvolution::kBlock;
+constexpr std::ptrdiff_t kSquare = std::ptrdiff_t{ kBlock } * kBlock;
+
+constexpr int blocksOf(int count)
+{
+    return (count + kBlock - 1) / kBlock;
+}
+
+// Complex sequences side by side, as many as kBlock: term after term, and of each term one sequence
+// after the other.
+struct FourierBlock {
+    float *re;
+    float *im;
+};
+
+// One to read and one to write.
+struct FourierBlocks {
+    FourierBlock a, b;
+};
+
+// Rows of two planes.
+struct FourierRows {
+    const float *re[kBlock];
+    const float *im[kBlock];
+};
+
+// The same to write to.
+struct FourierTargets {
+    float *re[kBlock];
+    float *im[kBlock];
+};
+
+} // namespace
+#endif
 
 HWY_BEFORE_NAMESPACE();
 namespace HWY_NAMESPACE {
@@ -20,7 +61,6 @@ namespace {
 
 namespace hn = hwy::HWY_NAMESPACE;
 
-constexpr int kBlock = FourierConvolution::kBlock;
 constexpr hn::CappedTag<float, kBlock> kFloats;
 using Floats = hn::Vec<decltype(kFloats)>;
 constexpr int kLanes = static_cast<int>(hn::MaxLanes(kFloats));
@@ -231,99 +271,140 @@ HWY_ATTR void transformPass(
         transformPass<Radix, false>(pass, done, in, out);
 }
 
-// Transforms `in` into `out`, which may be the same. In between the passes go to the two spares in
-// turn, of which the first must be another block than `in`, the second another than `out`.
-HWY_ATTR void transform(const FourierPlan &plan, const FourierBlock &in, const FourierBlock &spare,
-    const FourierBlock &otherSpare, const FourierBlock &out)
+FourierBlock swapped(const FourierBlock &block)
 {
-    const FourierBlock *source = &in;
-    int done = 1;
-    for (std::size_t i = 0; i < plan.passes().size(); ++i) {
-        const FourierPlan::Pass &pass = plan.passes()[i];
-        const FourierBlock *target = i + 1 == plan.passes().size() ? &out
-            : i % 2 == 0                                           ? &spare
-                                                                   : &otherSpare;
-        switch (pass.radix) {
-        case 1:
-            transformPass<1>(pass, done, *source, *target);
-            break;
-        case 2:
-            transformPass<2>(pass, done, *source, *target);
-            break;
-        case 3:
-            transformPass<3>(pass, done, *source, *target);
-            break;
-        case 4:
-            transformPass<4>(pass, done, *source, *target);
-            break;
-        case 5:
-            transformPass<5>(pass, done, *source, *target);
-            break;
-        case 6:
-            transformPass<6>(pass, done, *source, *target);
-            break;
-        case 8:
-            transformPass<8>(pass, done, *source, *target);
-            break;
-        case 9:
-            transformPass<9>(pass, done, *source, *target);
-            break;
-        default:
-            transformPass<10>(pass, done, *source, *target);
+    return { block.im, block.re };
+}
+
+// The last pass of a transform, the multiplication with a kernel and the first pass back, which
+// takes the very terms that the last one gives. Real and imaginary parts have then changed places.
+// Of the kernel, which is symmetric, there is the first half.
+template <int Radix>
+HWY_ATTR void convolvePass(const FourierPlan::Pass &firstBack, const float *kernel,
+    const FourierBlock &in, const FourierBlock &out)
+{
+    const int count = firstBack.count;
+    for (int sum = 0; sum < count; ++sum) {
+        const FourierPlan::Factor *factors
+            = firstBack.factors.data() + static_cast<std::ptrdiff_t>(sum) * (Radix - 1);
+        const float *weights[Radix];
+        for (int k = 0; k < Radix; ++k) {
+            const int term = sum + count * k;
+            weights[k] = kernel + std::min(term, count * Radix - term) * kBlock;
         }
+        for (int lane = 0; lane < kBlock; lane += kLanes) {
+            Complex terms[Radix];
+            for (int k = 0; k < Radix; ++k) {
+                const int at = (sum + count * k) * kBlock + lane;
+                terms[k] = { hn::Load(kFloats, in.re + at), hn::Load(kFloats, in.im + at) };
+            }
+            transformTerms(terms);
+            for (int k = 0; k < Radix; ++k) {
+                const Floats weight = hn::Load(kFloats, weights[k] + lane);
+                terms[k] = { hn::Mul(terms[k].im, weight), hn::Mul(terms[k].re, weight) };
+            }
+            transformTerms(terms);
+            for (int k = 0; k < Radix; ++k) {
+                const Complex term = k == 0 ? terms[k] : turned(terms[k], factors[k - 1]);
+                const int at = (Radix * sum + k) * kBlock + lane;
+                hn::Store(term.re, kFloats, out.re + at);
+                hn::Store(term.im, kFloats, out.im + at);
+            }
+        }
+    }
+}
+
+// Calls `work` with the radix as a constant.
+template <typename Work>
+void withRadix(int radix, const Work &work)
+{
+    switch (radix) {
+    case 1:
+        return work(std::integral_constant<int, 1>());
+    case 2:
+        return work(std::integral_constant<int, 2>());
+    case 3:
+        return work(std::integral_constant<int, 3>());
+    case 4:
+        return work(std::integral_constant<int, 4>());
+    case 5:
+        return work(std::integral_constant<int, 5>());
+    case 6:
+        return work(std::integral_constant<int, 6>());
+    case 8:
+        return work(std::integral_constant<int, 8>());
+    case 9:
+        return work(std::integral_constant<int, 9>());
+    default:
+        return work(std::integral_constant<int, 10>());
+    }
+}
+
+// A pass of whatever radix, before which `done` terms are transformed together.
+void transformPass(
+    const FourierPlan::Pass &pass, int done, const FourierBlock &in, const FourierBlock &out)
+{
+    withRadix(pass.radix,
+        [&]<int R>(std::integral_constant<int, R>) { transformPass<R>(pass, done, in, out); });
+}
+
+// Passes in turn, from blocks.a to blocks.b, which then change places.
+void transform(std::span<const FourierPlan::Pass> passes, int done, FourierBlocks &blocks)
+{
+    for (const FourierPlan::Pass &pass : passes) {
+        transformPass(pass, done, blocks.a, blocks.b);
+        std::swap(blocks.a, blocks.b);
         done *= pass.radix;
-        source = target;
     }
 }
 
 // The inverse, but for the division by the length: real and imaginary parts change places.
-HWY_ATTR void transformBack(const FourierPlan &plan, const FourierBlock &in,
-    const FourierBlock &spare, const FourierBlock &otherSpare, const FourierBlock &out)
+void transformBack(std::span<const FourierPlan::Pass> passes, int done, FourierBlocks &blocks)
 {
-    const auto swapped = [](const FourierBlock &block) {
-        return FourierBlock{ block.im, block.re };
-    };
-    transform(plan, swapped(in), swapped(spare), swapped(otherSpare), swapped(out));
+    FourierBlocks exchanged{ swapped(blocks.a), swapped(blocks.b) };
+    transform(passes, done, exchanged);
+    blocks = { swapped(exchanged.a), swapped(exchanged.b) };
 }
 
 #if HWY_TARGET == HWY_SCALAR
 
-// Transposes kBlock × kBlock floats.
-void transposeBlock(const float *in, float *out)
+// Transposes kBlock columns of so many rows, from `column` on.
+void transposeBlock(const float *const *rows, std::ptrdiff_t column, float *out)
 {
     for (int x = 0; x < kBlock; ++x) {
         for (int y = 0; y < kBlock; ++y)
-            out[x * kBlock + y] = in[y * kBlock + x];
+            out[x * kBlock + y] = rows[y][column + x];
     }
 }
 
 #else
 
-// Transposes kBlock × kBlock floats: within squares of 4 × 4, which then go to their places.
-HWY_ATTR void transposeBlock(const float *in, float *out)
+// Transposes kBlock columns of so many rows, from `column` on: within squares of 4 × 4, which then
+// go to their places.
+HWY_ATTR void transposeBlock(const float *const *rows, std::ptrdiff_t column, float *out)
 {
     const hn::Repartition<double, decltype(kFloats)> pairs;
     HWY_ALIGN float squares[4 * kBlock];
     for (int y = 0; y < kBlock; y += 4) {
         for (int lane = 0; lane < kBlock; lane += kLanes) {
-            const float *row = in + y * kBlock + lane;
-            const Floats row0 = hn::Load(kFloats, row);
-            const Floats row1 = hn::Load(kFloats, row + kBlock);
-            const Floats row2 = hn::Load(kFloats, row + 2 * kBlock);
-            const Floats row3 = hn::Load(kFloats, row + 3 * kBlock);
+            const std::ptrdiff_t at = column + lane;
+            const Floats row0 = hn::LoadU(kFloats, rows[y] + at);
+            const Floats row1 = hn::LoadU(kFloats, rows[y + 1] + at);
+            const Floats row2 = hn::LoadU(kFloats, rows[y + 2] + at);
+            const Floats row3 = hn::LoadU(kFloats, rows[y + 3] + at);
             const auto low01 = hn::BitCast(pairs, hn::InterleaveLower(kFloats, row0, row1));
             const auto low23 = hn::BitCast(pairs, hn::InterleaveLower(kFloats, row2, row3));
             const auto high01 = hn::BitCast(pairs, hn::InterleaveUpper(kFloats, row0, row1));
             const auto high23 = hn::BitCast(pairs, hn::InterleaveUpper(kFloats, row2, row3));
-            float *column = squares + lane;
+            float *square = squares + lane;
             hn::Store(
-                hn::BitCast(kFloats, hn::InterleaveLower(pairs, low01, low23)), kFloats, column);
+                hn::BitCast(kFloats, hn::InterleaveLower(pairs, low01, low23)), kFloats, square);
             hn::Store(hn::BitCast(kFloats, hn::InterleaveUpper(pairs, low01, low23)), kFloats,
-                column + kBlock);
+                square + kBlock);
             hn::Store(hn::BitCast(kFloats, hn::InterleaveLower(pairs, high01, high23)), kFloats,
-                column + 2 * kBlock);
+                square + 2 * kBlock);
             hn::Store(hn::BitCast(kFloats, hn::InterleaveUpper(pairs, high01, high23)), kFloats,
-                column + 3 * kBlock);
+                square + 3 * kBlock);
         }
         for (int x = 0; x < kBlock; ++x) {
             std::memcpy(
@@ -334,67 +415,143 @@ HWY_ATTR void transposeBlock(const float *in, float *out)
 
 #endif
 
-HWY_ATTR void multiply(const FourierBlock &block, const float *kernel, int length)
+// The same for a block whose rows lie one after the other.
+void transposeBlock(const float *in, float *out)
 {
-    for (int i = 0; i < length * kBlock; i += kLanes) {
-        const Floats factor = hn::Load(kFloats, kernel + i);
-        hn::Store(hn::Mul(hn::Load(kFloats, block.re + i), factor), kFloats, block.re + i);
-        hn::Store(hn::Mul(hn::Load(kFloats, block.im + i), factor), kFloats, block.im + i);
+    const float *rows[kBlock];
+    for (int y = 0; y < kBlock; ++y)
+        rows[y] = in + y * kBlock;
+    transposeBlock(rows, 0, out);
+}
+
+// The picture's part of the torus's rows, to rows of which those beyond the picture are null.
+void takeRows(const float *block, int columns, float *const *rows)
+{
+    HWY_ALIGN float square[kSquare];
+    for (int x = 0; x < columns; x += kBlock) {
+        transposeBlock(block + x * kBlock, square);
+        const int count = std::min(kBlock, columns - x);
+        for (int y = 0; y < kBlock && rows[y] != nullptr; ++y) {
+            if (count == kBlock)
+                std::memcpy(rows[y] + x, square + y * kBlock, kBlock * sizeof(float));
+            else
+                std::copy_n(square + y * kBlock, count, rows[y] + x);
+        }
     }
 }
 
-HWY_ATTR void scale(float *values, float factor, int length)
+// A plane's part of blocks of the spectrum's rows that are `step` floats from each other, as
+// columns. Above and below the picture the torus repeats its edges.
+void fillColumns(
+    const float *in, std::ptrdiff_t step, int rows, int reach, float *columns, int length)
 {
-    for (int i = 0; i < length * kBlock; i += kLanes) {
-        hn::Store(
-            hn::Mul(hn::Load(kFloats, values + i), hn::Set(kFloats, factor)), kFloats, values + i);
+    const int bands = blocksOf(rows);
+    for (int i = 0; i < bands; ++i) {
+        // The processor doesn't see from one block that the next one follows.
+        const float *next = in + std::min(i + 1, bands - 1) * step;
+        for (int y = 0; y < kBlock; ++y)
+            hwy::Prefetch(next + y * kBlock);
+        transposeBlock(in + i * step, columns + i * kSquare);
     }
+    const float *last = columns + (rows - 1) * kBlock;
+    for (int y = rows; y < length; ++y)
+        std::copy_n(y < length - reach ? last : columns, kBlock, columns + y * kBlock);
+}
+
+// The picture's rows back into the spectrum.
+void takeColumns(const float *columns, int rows, float *out, std::ptrdiff_t step)
+{
+    for (int i = 0; i < blocksOf(rows); ++i)
+        transposeBlock(columns + i * kSquare, out + i * step);
 }
 
 } // namespace
 
-// Down the columns of blocks.a. What comes out goes into the spectrum, a block of the transform's
-// rows after the other: `step` floats lie between them, and within each a column is a row.
-HWY_ATTR void transformColumns(
-    const FourierPlan &down, const FourierBlocks &blocks, float *re, float *im, std::ptrdiff_t step)
+// Across a block of two planes' rows, of which the first blocks of columns are given and the rest
+// is zero.
+HWY_ATTR void transformRows(const FourierPlan &across, FourierBlocks blocks,
+    const FourierRows &rows, int given, const FourierBlock &out)
 {
-    transform(down, blocks.a, blocks.b, blocks.c, blocks.a);
-    const int count = (down.length() + kBlock - 1) / kBlock;
-    for (int i = 0; i < count; ++i) {
-        transposeBlock(blocks.a.re + i * kBlock * kBlock, re + i * step);
-        transposeBlock(blocks.a.im + i * kBlock * kBlock, im + i * step);
+    const int columns = across.length();
+    for (int i = 0; i < given; ++i) {
+        // Rows lie on pages of their own, more of them than the processor looks ahead on.
+        for (int y = 0; y < kBlock; ++y) {
+            hwy::Prefetch(rows.re[y] + (i + 2) * kBlock);
+            hwy::Prefetch(rows.im[y] + (i + 2) * kBlock);
+        }
+        transposeBlock(rows.re, i * kBlock, blocks.a.re + i * kSquare);
+        transposeBlock(rows.im, i * kBlock, blocks.a.im + i * kSquare);
+    }
+    if (given * kBlock < columns) {
+        for (float *const part : { blocks.a.re, blocks.a.im })
+            std::fill(part + given * kSquare, part + columns * kBlock, 0.0F);
+    }
+    const std::span passes(across.passes());
+    transform(passes.first(passes.size() - 1), 1, blocks);
+    transformPass(passes.back(), columns / passes.back().radix, blocks.a, out);
+    // The last block's lanes beyond the torus are computed with, and must not grow.
+    for (float *const part : { out.re, out.im })
+        std::fill(part + columns * kBlock, part + blocksOf(columns) * kSquare, 0.0F);
+}
+
+// The way back, to the columns from `first` on.
+HWY_ATTR void transformRowsBack(const FourierPlan &across, FourierBlocks blocks,
+    const FourierBlock &in, int first, int columns, const FourierTargets &rows)
+{
+    const std::span passes(across.passes());
+    transformPass(passes.front(), 1, swapped(in), swapped(blocks.a));
+    transformBack(passes.subspan(1), passes.front().radix, blocks);
+    takeRows(blocks.a.re + first * kBlock, columns, rows.re);
+    takeRows(blocks.a.im + first * kBlock, columns, rows.im);
+}
+
+// Down a block of columns and, multiplied with the kernel, back again.
+HWY_ATTR void convolveColumns(const FourierPlan &down, const FourierPlan &back,
+    FourierBlocks blocks, const FourierBlock &spectrum, std::ptrdiff_t step, int rows, int reach,
+    const float *kernel)
+{
+    fillColumns(spectrum.re, step, rows, reach, blocks.a.re, down.length());
+    fillColumns(spectrum.im, step, rows, reach, blocks.a.im, down.length());
+    const std::span passes(down.passes());
+    const std::span passesBack(back.passes());
+    transform(passes.first(passes.size() - 1), 1, blocks);
+    const FourierPlan::Pass &middle = passesBack.front();
+    withRadix(middle.radix, [&]<int R>(std::integral_constant<int, R>) {
+        convolvePass<R>(middle, kernel, blocks.a, swapped(blocks.b));
+    });
+    std::swap(blocks.a, blocks.b);
+    transformBack(passesBack.subspan(1), middle.radix, blocks);
+    takeColumns(blocks.a.re, rows, spectrum.re, step);
+    takeColumns(blocks.a.im, rows, spectrum.im, step);
+}
+
+// Across two blocks of a kernel's rows at once, blocks.a: they are real and symmetric, and so are
+// their transforms. Where there is a single block, the other goes nowhere.
+HWY_ATTR void transformKernelRows(const FourierPlan &across, FourierBlocks blocks, float *out,
+    float *otherOut, std::ptrdiff_t step)
+{
+    transform(across.passes(), 1, blocks);
+    for (const auto &[from, to] :
+        { std::pair{ blocks.a.re, out }, std::pair{ blocks.a.im, otherOut } }) {
+        const int count = blocksOf(across.length());
+        std::fill(from + across.length() * kBlock, from + count * kSquare, 0.0F);
+        for (int i = 0; i < count && to != nullptr; ++i)
+            transposeBlock(from + i * kSquare, to + i * step);
     }
 }
 
-// The way back; the columns come out in blocks.a.
-HWY_ATTR void transformColumnsBack(const FourierPlan &down, const FourierBlocks &blocks,
-    const float *re, const float *im, std::ptrdiff_t step)
+// Down two blocks of its columns at once, of which the first half comes out.
+HWY_ATTR void transformKernelColumns(
+    const FourierPlan &down, FourierBlocks blocks, float *out, float *otherOut, float factor)
 {
-    const int count = (down.length() + kBlock - 1) / kBlock;
-    for (int i = 0; i < count; ++i) {
-        transposeBlock(re + i * step, blocks.a.re + i * kBlock * kBlock);
-        transposeBlock(im + i * step, blocks.a.im + i * kBlock * kBlock);
+    transform(down.passes(), 1, blocks);
+    const int count = (down.length() / 2 + 1) * kBlock;
+    const Floats share = hn::Set(kFloats, factor);
+    for (int i = 0; i < count; i += kLanes) {
+        hn::Store(hn::Mul(hn::Load(kFloats, blocks.a.re + i), share), kFloats, out + i);
+        if (otherOut != nullptr)
+            hn::Store(hn::Mul(hn::Load(kFloats, blocks.a.im + i), share), kFloats, otherOut + i);
     }
-    transformBack(down, blocks.a, blocks.b, blocks.c, blocks.a);
-}
-
-// Across two blocks of a kernel's rows at once: they are real and symmetric, and so are their
-// transforms.
-HWY_ATTR void transformKernelRows(const FourierPlan &across, const FourierBlocks &blocks,
-    float *rows, float *otherRows, float factor)
-{
-    transform(across, { rows, otherRows }, blocks.a, blocks.b, { rows, otherRows });
-    scale(rows, factor, across.length());
-    scale(otherRows, factor, across.length());
-}
-
-// Across the rows and, multiplied with the kernel, back again.
-HWY_ATTR void convolveRows(const FourierPlan &across, const FourierBlocks &blocks,
-    const FourierBlock &rows, const float *kernel)
-{
-    transform(across, rows, blocks.a, blocks.b, blocks.c);
-    multiply(blocks.c, kernel, across.length());
-    transformBack(across, blocks.c, blocks.a, blocks.b, rows);
 }
 
 } // namespace HWY_NAMESPACE
@@ -402,30 +559,25 @@ HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
 
-HWY_EXPORT(transformColumns);
-HWY_EXPORT(transformColumnsBack);
+HWY_EXPORT(transformRows);
+HWY_EXPORT(transformRowsBack);
+HWY_EXPORT(convolveColumns);
 HWY_EXPORT(transformKernelRows);
-HWY_EXPORT(convolveRows);
+HWY_EXPORT(transformKernelColumns);
 
 namespace {
 
-constexpr int kBlock = FourierConvolution::kBlock;
-// Blocks that are filled and taken at once: so much of a picture's row lies together.
-constexpr int kStrip = 4;
-
-constexpr std::ptrdiff_t kSquare = std::ptrdiff_t{ kBlock } * kBlock;
-
-FourierBlocks blocksOf(int terms)
+// Room for so many terms and a block behind them.
+FourierBlocks scratchBlocks(int terms)
 {
-    const int size = terms * kBlock;
-    float *memory = Scratch::floats(Scratch::Transform, 6 * size);
-    return { { memory, memory + size }, { memory + 2 * size, memory + 3 * size },
-        { memory + 4 * size, memory + 5 * size } };
+    const std::ptrdiff_t size = (blocksOf(terms) + 1) * kSquare;
+    float *memory = Scratch::floats(Scratch::Transform, static_cast<int>(4 * size));
+    return { { memory, memory + size }, { memory + 2 * size, memory + 3 * size } };
 }
 
 } // namespace
 
-FourierPlan::FourierPlan(int length)
+FourierPlan::FourierPlan(int length, Order order)
     : m_length(length)
 {
     const auto root = [](int numerator, int denominator) -> Factor {
@@ -433,22 +585,28 @@ FourierPlan::FourierPlan(int length)
         return { static_cast<float>(std::cos(angle)), static_cast<float>(std::sin(angle)) };
     };
     // Few long passes rather than many short ones: most of the time goes into memory.
-    constexpr std::array radices{ 10, 9, 8, 6, 5, 4, 3, 2 };
-    for (int left = length; left > 1;) {
-        const auto *const radix = std::ranges::find_if(
-            radices, [left](int candidate) { return left % candidate == 0; });
-        HWY_DASSERT(radix != radices.end());
-        Pass pass{ .radix = *radix, .count = left / *radix, .factors = {} };
+    std::vector<int> radices;
+    int left = length;
+    for (const int radix : { 10, 9, 8, 6, 5, 4, 3, 2 }) {
+        for (; left % radix == 0; left /= radix)
+            radices.push_back(radix);
+    }
+    HWY_DASSERT(left == 1);
+    // A single term is its own transform; the pass copies it.
+    if (radices.empty())
+        radices.push_back(1);
+    if (order == SmallestFirst)
+        std::ranges::reverse(radices);
+    left = length;
+    for (const int radix : radices) {
+        Pass pass{ .radix = radix, .count = left / radix, .factors = {} };
         for (int sum = 0; sum < pass.count; ++sum) {
-            for (int term = 1; term < pass.radix; ++term)
+            for (int term = 1; term < radix; ++term)
                 pass.factors.push_back(root(sum * term, left));
         }
         left = pass.count;
         m_passes.push_back(std::move(pass));
     }
-    // A single term is its own transform; the pass copies it.
-    if (m_passes.empty())
-        m_passes.push_back({ .radix = 1, .count = 1, .factors = {} });
 }
 
 int FourierPlan::lengthFor(int count)
@@ -464,103 +622,117 @@ int FourierPlan::lengthFor(int count)
     }
 }
 
-FourierConvolution::FourierConvolution(int width, int height)
-    : m_across(width)
-    , m_down(height)
+FourierConvolution::FourierConvolution(int columns, int rows, int reach)
+    : m_columns(columns)
+    , m_rows(rows)
+    , m_reach(reach)
+    , m_across(FourierPlan::lengthFor(columns + 2 * reach))
+    , m_down(FourierPlan::lengthFor(rows + 2 * reach))
+    , m_back(m_down.length(), FourierPlan::SmallestFirst)
 { }
 
-// Blocks of rows one after the other. In each, a column of the torus takes a row of kBlock floats,
-// so that a transform across reads memory from end to end. The columns' blocks may pass the width.
+std::size_t FourierConvolution::spectrumSize() const
+{
+    return static_cast<std::size_t>(2 * blocksOf(m_across.length()) * blocksOf(m_rows) * kSquare);
+}
+
 std::size_t FourierConvolution::kernelSize() const
 {
-    return static_cast<std::size_t>(blocksAcross() * blocksDown()) * std::size_t{ kSquare };
+    return static_cast<std::size_t>(blocksOf(m_across.length()) * kernelStep());
+}
+
+// The first half of the transform's rows, or before that the kernel's own.
+std::ptrdiff_t FourierConvolution::kernelStep() const
+{
+    return std::max(m_down.length() / 2 + 1, blocksOf(m_reach + 1) * kBlock) * kBlock;
 }
 
 void FourierConvolution::transformKernel(
-    const Kernel &value, int reach, float *spectrum, float *kernel, const Parallel &parallel) const
+    const Kernel &value, float *kernel, const Parallel &parallel) const
 {
-    const std::ptrdiff_t step = blocksAcross() * kSquare;
-    std::fill_n(kernel, kernelSize(), 0.0F);
-    // Symmetric columns have real transforms, so that two blocks of them go through at once. The
-    // upper half lies at the torus's far end, and so do the columns to the left of the center,
-    // which are copies of those to the right.
-    const int pairs = (reach / kBlock + 2) / 2;
-    parallel.run(pairs, [&](int pair) {
-        const FourierBlocks blocks = blocksOf(blocksDown() * kBlock);
-        std::fill_n(blocks.a.re, 2 * blocksDown() * kSquare, 0.0F);
+    const int width = m_across.length();
+    const int height = m_down.length();
+    const int rowBlocks = blocksOf(m_reach + 1);
+    parallel.run((rowBlocks + 1) / 2, [&](int pair) {
+        const FourierBlocks blocks = scratchBlocks(width);
         for (int part = 0; part < 2; ++part) {
-            const int x = (2 * pair + part) * kBlock;
+            const int top = (2 * pair + part) * kBlock;
             float *block = part == 0 ? blocks.a.re : blocks.a.im;
-            for (int lane = 0; lane < kBlock && x + lane <= reach; ++lane) {
-                for (int dy = 0; dy <= reach; ++dy) {
-                    const float weight = value(x + lane, dy);
-                    block[dy * kBlock + lane] = weight;
-                    block[(height() - dy) % height() * kBlock + lane] = weight;
-                }
+            std::fill_n(block, width * kBlock, 0.0F);
+            for (int dx = 0; dx <= m_reach; ++dx) {
+                float *column = block + dx * kBlock;
+                for (int lane = 0; lane < kBlock && top + lane <= m_reach; ++lane)
+                    column[lane] = value(dx, top + lane);
+                // What lies to the left of the center is at the torus's far end.
+                std::copy_n(column, kBlock, block + (width - dx) % width * kBlock);
             }
         }
-        float *out = spectrum + 2 * pair * kSquare;
-        HWY_DYNAMIC_DISPATCH(transformColumns)(m_down, blocks, out, out + kSquare, step);
-    });
-    const auto share = static_cast<float>(1 / (double{ 1 } * width() * height()));
-    parallel.run((blocksDown() + 1) / 2, [&](int pair) {
-        for (int part = 0; part < 2 && 2 * pair + part < blocksDown(); ++part) {
-            const float *columns = spectrum + (2 * pair + part) * step;
-            float *rows = kernel + (2 * pair + part) * step;
-            for (int dx = 0; dx <= reach; ++dx) {
-                std::copy_n(columns + dx * kBlock, kBlock, rows + dx * kBlock);
-                std::copy_n(columns + dx * kBlock, kBlock,
-                    rows + static_cast<std::ptrdiff_t>((width() - dx) % width()) * kBlock);
-            }
-        }
-        float *rows = kernel + 2 * pair * step;
-        float *otherRows = rows + step;
-        if (2 * pair + 1 == blocksDown()) {
-            // An odd block at the end goes alone.
-            otherRows = spectrum + spectrumSize() / 2;
-            std::fill_n(otherRows, step, 0.0F);
-        }
+        float *out = kernel + 2 * pair * kSquare;
         HWY_DYNAMIC_DISPATCH(transformKernelRows)
-        (m_across, blocksOf(width()), rows, otherRows, share);
+        (m_across, blocks, out, 2 * pair + 1 < rowBlocks ? out + kSquare : nullptr, kernelStep());
+    });
+    const auto share = static_cast<float>(1 / (double{ 1 } * width * height));
+    const int columnBlocks = blocksOf(width);
+    parallel.run((columnBlocks + 1) / 2, [&](int pair) {
+        const FourierBlocks blocks = scratchBlocks(height);
+        float *out = kernel + 2 * pair * kernelStep();
+        float *otherOut = 2 * pair + 1 < columnBlocks ? out + kernelStep() : nullptr;
+        for (const auto &[rows, block] :
+            { std::pair{ out, blocks.a.re }, std::pair{ otherOut, blocks.a.im } }) {
+            std::fill_n(block, height * kBlock, 0.0F);
+            for (int dy = 0; dy <= m_reach && rows != nullptr; ++dy) {
+                std::copy_n(rows + dy * kBlock, kBlock, block + dy * kBlock);
+                std::copy_n(rows + dy * kBlock, kBlock, block + (height - dy) % height * kBlock);
+            }
+        }
+        HWY_DYNAMIC_DISPATCH(transformKernelColumns)(m_down, blocks, out, otherOut, share);
     });
 }
 
-void FourierConvolution::convolve(int pairs, const Fill &fill, const Take &take, float *spectrum,
-    const float *kernel, const Parallel &parallel) const
+void FourierConvolution::convolve(int pairs, const Source &source, const Target &target,
+    float *spectrum, const float *kernel, const Parallel &parallel) const
 {
-    const std::ptrdiff_t step = blocksAcross() * kSquare;
-    const std::ptrdiff_t stripSize = kStrip * blockSize();
-    float *re = spectrum;
-    float *im = spectrum + kernelSize();
+    const int bands = blocksOf(m_rows);
+    const int given = blocksOf(m_columns + 2 * m_reach);
+    // A block of rows after the other, its real parts before its imaginary ones.
+    const std::ptrdiff_t plane = blocksOf(m_across.length()) * kSquare;
+    const std::ptrdiff_t step = 2 * plane;
     for (int pair = 0; pair <= pairs; ++pair) {
-        // Where a pair's columns have left the spectrum, those of the next one take their place.
-        parallel.run((blocksAcross() + kStrip - 1) / kStrip, [&](int strip) {
-            const int begin = strip * kStrip;
-            const int end = std::min(begin + kStrip, blocksAcross());
-            float *columns = Scratch::floats(Scratch::Strip, static_cast<int>(2 * stripSize));
-            FourierBlocks blocks = blocksOf(blocksDown() * kBlock);
-            const auto forEachBlock = [&](auto transformBlock) {
-                for (int i = begin; i < end; ++i) {
-                    blocks.a.re = columns + (i - begin) * blockSize();
-                    blocks.a.im = blocks.a.re + stripSize;
-                    transformBlock(m_down, blocks, re + i * kSquare, im + i * kSquare, step);
-                }
-            };
+        // Where a pair's rows have left the spectrum, those of the next one take their place.
+        parallel.run(bands, [&](int band) {
+            const int top = band * kBlock;
+            const int count = std::min(kBlock, m_rows - top);
+            float *memory = spectrum + band * step;
+            const FourierBlock part{ memory, memory + plane };
+            const FourierBlocks blocks = scratchBlocks(m_across.length());
             if (pair > 0) {
-                forEachBlock(HWY_DYNAMIC_DISPATCH(transformColumnsBack));
-                take(pair - 1, begin * kBlock, end * kBlock, columns, columns + stripSize);
+                FourierTargets rows{};
+                for (int y = 0; y < count; ++y) {
+                    rows.re[y] = target(2 * pair - 2, top + y);
+                    rows.im[y] = target(2 * pair - 1, top + y);
+                }
+                HWY_DYNAMIC_DISPATCH(transformRowsBack)
+                (m_across, blocks, part, m_reach, m_columns, rows);
             }
             if (pair < pairs) {
-                std::fill_n(columns, 2 * stripSize, 0.0F);
-                fill(pair, begin * kBlock, end * kBlock, columns, columns + stripSize);
-                forEachBlock(HWY_DYNAMIC_DISPATCH(transformColumns));
+                FourierRows rows{};
+                const float *zeros = Scratch::zeros(given * kBlock);
+                for (int y = 0; y < kBlock; ++y) {
+                    const float *re = y < count ? source(2 * pair, top + y) : nullptr;
+                    const float *im = y < count ? source(2 * pair + 1, top + y) : nullptr;
+                    rows.re[y] = re != nullptr ? re : zeros;
+                    rows.im[y] = im != nullptr ? im : zeros;
+                }
+                HWY_DYNAMIC_DISPATCH(transformRows)(m_across, blocks, rows, given, part);
             }
         });
         if (pair == pairs)
             break;
-        parallel.run(blocksDown(), [&](int i) {
-            HWY_DYNAMIC_DISPATCH(convolveRows)
-            (m_across, blocksOf(width()), { re + i * step, im + i * step }, kernel + i * step);
+        parallel.run(blocksOf(m_across.length()), [&](int i) {
+            float *columns = spectrum + i * kSquare;
+            HWY_DYNAMIC_DISPATCH(convolveColumns)
+            (m_down, m_back, scratchBlocks(m_down.length()), { columns, columns + plane }, step,
+                m_rows, m_reach, kernel + i * kernelStep());
         });
     }
 }

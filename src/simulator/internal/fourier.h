@@ -14,8 +14,11 @@ class Parallel;
 class FourierPlan
 {
 public:
+    /// By the passes' radices. The first pass of one order has the radix of the other's last.
+    enum Order { LargestFirst, SmallestFirst };
+
     /// @pre length is at least 1 and a product of twos, threes and fives.
-    explicit FourierPlan(int length);
+    explicit FourierPlan(int length, Order order = LargestFirst);
 
     /// The smallest length of at least `count` that has a plan.
     [[nodiscard]] static int lengthFor(int count);
@@ -40,70 +43,52 @@ private:
     std::vector<Pass> m_passes;
 };
 
-/// Complex sequences side by side, as many as FourierConvolution::kBlock: term after term, and of
-/// each term one sequence after the other.
-struct FourierBlock {
-    float *re;
-    float *im;
-};
-
-/// Three sets of sequences that a transform moves between.
-struct FourierBlocks {
-    FourierBlock a, b, c;
-};
-
-/// Convolves pictures on a torus with a kernel that is symmetric in both directions. Two real
-/// planes are convolved at once, as the real and imaginary parts of one, since the transform of
-/// such a kernel is real. The caller makes the torus so large that the kernel doesn't reach around.
+/// Convolves pictures with a kernel that is symmetric in both directions, on a torus so large that
+/// the kernel doesn't reach around. Two real planes are convolved at once, as the real and
+/// imaginary parts of one, since the transform of such a kernel is real.
+///
+/// First across the picture's rows, then down the columns: above and below the picture its edge
+/// rows repeat, and so do their transforms.
 ///
 /// Single precision: the error is about 10⁻⁷ of the picture's root mean square.
 class FourierConvolution
 {
 public:
-    /// Columns that are handed over at a time; a block holds them row after row.
+    /// Rows, and then columns, that are transformed at once.
     static constexpr int kBlock = 16;
 
-    /// @pre both lengths have plans.
-    FourierConvolution(int width, int height);
-
-    [[nodiscard]] int width() const { return m_across.length(); }
-    [[nodiscard]] int height() const { return m_down.length(); }
+    /// For pictures of so many columns and rows, both at least 1, and kernels that are zero beyond
+    /// `reach` columns and rows.
+    FourierConvolution(int columns, int rows, int reach);
 
     /// Floats in a spectrum, and in the spectrum of a kernel.
-    [[nodiscard]] std::size_t spectrumSize() const { return 2 * kernelSize(); }
+    [[nodiscard]] std::size_t spectrumSize() const;
     [[nodiscard]] std::size_t kernelSize() const;
-
-    /// Floats from one block of columns to the next.
-    [[nodiscard]] std::ptrdiff_t blockSize() const
-    {
-        return std::ptrdiff_t{ blocksDown() } * kBlock * kBlock;
-    }
 
     /// The kernel's value `dx` columns and `dy` rows from its center, both at least 0.
     using Kernel = std::function<float(int dx, int dy)>;
 
-    /// The transform of a kernel that is zero beyond `reach` columns and rows, divided by the
-    /// number of the torus's pixels. `spectrum` is for work.
-    void transformKernel(const Kernel &value, int reach, float *spectrum, float *kernel,
-        const Parallel &parallel) const;
+    /// The transform of a kernel, divided by the number of the torus's pixels. Aligned for vectors.
+    void transformKernel(const Kernel &value, float *kernel, const Parallel &parallel) const;
 
-    /// Fills the blocks of the columns from `begin` to `end`, whole blocks that are blockSize()
-    /// floats from each other: height × kBlock floats a plane, aligned for vectors and zero before.
-    using Fill = std::function<void(int pair, int begin, int end, float *re, float *im)>;
+    /// Where a row of a plane begins, `reach` columns before the picture, up to as many behind it;
+    /// kBlock − 1 more floats may be read there. Null for a row of zeros.
+    using Source = std::function<const float *(int plane, int y)>;
 
-    /// Takes such blocks.
-    using Take
-        = std::function<void(int pair, int begin, int end, const float *re, const float *im)>;
+    /// Where the picture's columns of a plane's row go.
+    using Target = std::function<float *(int plane, int y)>;
 
-    /// Convolves so many pairs of planes, each as `fill` gives it, and hands them to `take`.
-    /// `spectrum` is for work.
-    void convolve(int pairs, const Fill &fill, const Take &take, float *spectrum,
+    /// Convolves so many pairs of planes. `spectrum` is for work, and aligned for vectors.
+    void convolve(int pairs, const Source &source, const Target &target, float *spectrum,
         const float *kernel, const Parallel &parallel) const;
 
 private:
-    [[nodiscard]] int blocksAcross() const { return (width() + kBlock - 1) / kBlock; }
-    [[nodiscard]] int blocksDown() const { return (height() + kBlock - 1) / kBlock; }
+    [[nodiscard]] std::ptrdiff_t kernelStep() const;
 
+    int m_columns;
+    int m_rows;
+    int m_reach;
     FourierPlan m_across;
     FourierPlan m_down;
+    FourierPlan m_back; // its first pass has the radix of m_down's last
 };

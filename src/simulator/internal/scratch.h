@@ -5,7 +5,7 @@
 /// than the arithmetic done in it. Each thread keeps its own; what they held is never read again.
 namespace Scratch {
 
-enum FloatUse { Columns, Transform, Strip, Lines, Band, kFloatUses };
+enum FloatUse { Columns, Transform, Lines, Band, kFloatUses };
 enum DoubleUse { Heights, Running, LinePairs, LineSums, kDoubleUses };
 
 /// At least `count` elements, aligned for vectors, of any content. Valid until the thread's next
