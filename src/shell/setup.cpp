@@ -1,7 +1,5 @@
 #include "shell/setup.h"
 
-#include "camera/hvcolors.h"
-#include "camera/textures.h"
 #include "content/contentlibrary.h"
 #include "kit/fonts.h"
 #include "kit/kit.h"
@@ -46,10 +44,24 @@ void configure()
     CRVNKit::install({ .name = HVInfo::appName, .extraThemes = HVThemes::extras() });
 }
 
-void prepare(double scale)
+void prepareCourse()
 {
     std::ignore = ContentLibrary::shared();
-    std::ignore = Textures::leatherTile(Qt::white, scale);
+}
+
+Housing::Body firstBody(double ratio, const HVColors &colors)
+{
+    constexpr QSize kSize(1412, 892);
+    return { .size = kSize,
+        .display = QRectF(248, 138, 1104, 708),
+        .colors = colors,
+        .pixels = (QSizeF(kSize) * ratio).toSize() };
+}
+
+Housing::Glass firstGlass(double ratio, const HVColors &colors)
+{
+    constexpr QSize kSize(1104, 764);
+    return { .size = kSize, .colors = colors, .pixels = (QSizeF(kSize) * ratio).toSize() };
 }
 
 QList<QFont> firstFonts()

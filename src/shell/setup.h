@@ -2,6 +2,8 @@
 // file is opened, the course is read and, when the window stands, indexed.
 #pragma once
 
+#include "camera/housing.h"
+
 #include <QFont>
 #include <QList>
 #include <QThread>
@@ -13,10 +15,14 @@ namespace HVSetup {
 /// Makes the application's theme the default and introduces the application to the kit.
 void configure();
 
-/// Reads the course and makes the leather at `scale`, in device pixels per point: what takes long
-/// and waits for nothing else. It may run in a thread of its own, if nothing asks for either until
-/// it has returned.
-void prepare(double scale);
+/// Reads the course, which takes long and waits for nothing else. It may run in a thread of its
+/// own, if nothing asks for the course until it has returned.
+void prepareCourse();
+
+/// The camera's surfaces in a window of usual size, at a zoom of 1 and `ratio` device pixels per
+/// point. They can be painted ahead; those of another window are painted when it is shown.
+[[nodiscard]] Housing::Body firstBody(double ratio, const HVColors &colors);
+[[nodiscard]] Housing::Glass firstGlass(double ratio, const HVColors &colors);
 
 /// The fonts that the first screen is lettered in. One that is missing here is opened when its
 /// first text is laid out.

@@ -196,7 +196,7 @@ TEST_F(HVSetupConfigure, StoresNoPreference)
 
 TEST_F(HVSetupOpenStore, UsesTheCourseThatAnotherThreadHasPrepared)
 {
-    std::async(std::launch::async, HVSetup::prepare, 1.0).get();
+    std::async(std::launch::async, HVSetup::prepareCourse).get();
     const EnvironmentVariable nowhere("HV_CONTENT", home.path(u"nowhere"_s));
     launch();
     EXPECT_FALSE(ContentLibrary::shared().lessons().isEmpty());

@@ -1,7 +1,7 @@
 #include "surfaces.h"
 
+#include "camera/housing.h"
 #include "camera/textures.h"
-#include "kit/continuouspath.h"
 #include "kit/gradients.h"
 #include "kit/softblur.h"
 
@@ -10,20 +10,6 @@
 #include <QPainter>
 
 namespace {
-
-constexpr double kBodyRadius = 46;
-constexpr double kLeatherInset = 10;
-constexpr double kLeatherRadius = 40;
-constexpr double kLeatherOpacity = 0.55;
-// Pebbles stand out by their edges: a lit copy of the tile peeps out above each one and a dark
-// copy below, as under a lamp at the top left.
-constexpr double kPebbleRelief = 0.7;
-constexpr double kPebbleLight = 0.1;
-constexpr double kPebbleShade = 0.5;
-
-constexpr double kBezel = 7;
-constexpr double kBezelRadius = 28;
-constexpr double kGlassRadius = 22;
 
 constexpr double kRingWidth = 12;
 constexpr double kRingGlow = 6;
@@ -46,14 +32,6 @@ QBrush turnedSheen(const QPointF &center, double strength)
     return sheen;
 }
 
-QPainterPath ring(const QRectF &outer, double outerRadius, double width, double innerRadius)
-{
-    QPainterPath path = continuousPath(outer, outerRadius);
-    path.addPath(continuousPath(inset(outer, width), innerRadius));
-    path.setFillRule(Qt::OddEvenFill);
-    return path;
-}
-
 } // namespace
 
 void CameraSurface::setC(const HVColors &colors)
@@ -69,57 +47,16 @@ void CameraBodyBackground::setDisplay(const QRectF &display)
         Q_EMIT displayChanged();
 }
 
-void CameraBodyBackground::paint(QPainter *painter)
+QImage CameraBodyBackground::picture()
 {
-    const QRectF area = boundingRect();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setClipRegion(QRegion(area.toAlignedRect()) - QRegion(m_display.toRect()));
-
-    const QPainterPath body = continuousPath(area, kBodyRadius);
-    painter->fillPath(body, verticalBrush(area, c().bodyHi(), c().body(), c().bodyLo()));
-
-    const QPainterPath cover = continuousPath(inset(area, kLeatherInset), kLeatherRadius);
-    const auto layLeather = [&](const QColor &tint, double opacity, double shift) {
-        QBrush leather(Textures::leatherTile(tint, renderScale()));
-        leather.setTransform(QTransform::fromTranslate(shift, shift));
-        painter->setOpacity(opacity);
-        painter->fillPath(cover, leather);
-    };
-    layLeather(gray(1), kPebbleLight, -kPebbleRelief);
-    layLeather(gray(0), kPebbleShade, kPebbleRelief);
-    layLeather(c().leather(), kLeatherOpacity, 0);
-    painter->setOpacity(1);
-
-    paintPanel(*painter, area,
-        {
-            .radius = kBodyRadius,
-            .stroke = verticalBrush(area, gray(1, 0.28), {}, gray(0, 0.7)),
-            .strokeWidth = 1.5,
-        });
+    return Housing::picture(Housing::Body{
+        .size = size().toSize(), .display = m_display, .colors = c(), .pixels = textureSize() });
 }
 
-void DisplayGlass::paint(QPainter *painter)
+QImage DisplayGlass::picture()
 {
-    const QRectF area = boundingRect();
-    const QRectF glass = inset(area, kBezel);
-    painter->setRenderHint(QPainter::Antialiasing);
-
-    painter->fillPath(ring(area, kBezelRadius, kBezel, kGlassRadius),
-        verticalBrush(area, c().bodyLo(), {}, gray(0.12)));
-    paintPanel(*painter, area,
-        {
-            .radius = kBezelRadius,
-            .stroke = verticalBrush(area, gray(0, 0.9), {}, gray(1, 0.18)),
-            .strokeWidth = 1.2,
-        });
-
-    QLinearGradient sheen(glass.topLeft(), glass.center());
-    sheen.setColorAt(0, gray(1, 0.05));
-    sheen.setColorAt(1, gray(1, 0));
-    QColor rim = c().glow();
-    rim.setAlphaF(0.18f);
-    paintPanel(*painter, glass,
-        { .radius = kGlassRadius, .fill = sheen, .stroke = rim, .strokeWidth = 1 });
+    return Housing::picture(
+        Housing::Glass{ .size = size().toSize(), .colors = c(), .pixels = textureSize() });
 }
 
 void DialFace::setTurn(qreal degrees)

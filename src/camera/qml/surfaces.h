@@ -37,10 +37,11 @@ public:
     [[nodiscard]] QRectF display() const { return m_display; }
     void setDisplay(const QRectF &display);
 
-    void paint(QPainter *painter) override;
-
 Q_SIGNALS:
     void displayChanged();
+
+protected:
+    [[nodiscard]] QImage picture() override;
 
 private:
     QRectF m_display;
@@ -55,7 +56,8 @@ class DisplayGlass : public CameraSurface
 public:
     using CameraSurface::CameraSurface;
 
-    void paint(QPainter *painter) override;
+protected:
+    [[nodiscard]] QImage picture() override;
 };
 
 /// The mode dial without its lettering: a knurled ring around a smooth disc. `turn` rotates the

@@ -159,8 +159,15 @@ void HalvorinApp::start(int &argc, char **argv)
         std::launch::async, [] { return QLibrary(u"Qt6QuickTemplates2"_s, 6).load(); });
     std::future<QFont> typeface
         = std::async(std::launch::async, [] { return Fonts::rounded(12.5); });
-    std::future<void> preparation = std::async(
-        std::launch::async, HVSetup::prepare, CNZoom::value() * m_application->devicePixelRatio());
+    HVSetup::configure();
+    const auto prepare = [ratio = m_application->devicePixelRatio(), isUsual = CNZoom::value() == 1,
+                             colors = HVColors()] {
+        HVSetup::prepareCourse();
+        if (isUsual)
+            Housing::paintAhead(
+                HVSetup::firstBody(ratio, colors), HVSetup::firstGlass(ratio, colors));
+    };
+    std::future<void> preparation = std::async(std::launch::async, prepare);
     m_engine = std::make_unique<QQmlEngine>();
     m_engine->addImportPath(u":/qt/qml"_s);
     QObject::connect(m_engine.get(), &QQmlEngine::quit, m_application.get(),
@@ -174,15 +181,17 @@ void HalvorinApp::start(int &argc, char **argv)
 
     // Only now: that loop would swallow the request, and until here there is nothing to bring home.
     quitOnTerminationSignals();
-    HVSetup::configure();
     HVSetup::openStore();
 
     m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
     if (!m_window)
         qFatal("The window could not be built: %s", qPrintable(component.errorString()));
-    const auto startIndexing = [this] { m_indexing = HVSetup::indexCourse(); };
+    const auto afterFirstFrame = [this] {
+        Housing::forgetAhead();
+        m_indexing = HVSetup::indexCourse();
+    };
     QObject::connect(m_window.get(), &QQuickWindow::frameSwapped, m_application.get(),
-        startIndexing, Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+        afterFirstFrame, Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     m_window->show();
 }
 

@@ -1,0 +1,148 @@
+#include "camera/housing.h"
+
+#include "camera/textures.h"
+#include "kit/continuouspath.h"
+#include "kit/gradients.h"
+#include "kit/picture.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+
+#include <optional>
+#include <utility>
+
+using namespace Housing;
+
+namespace {
+
+constexpr double kBodyRadius = 46;
+constexpr double kLeatherInset = 10;
+constexpr double kLeatherRadius = 40;
+constexpr double kLeatherOpacity = 0.55;
+// Pebbles stand out by their edges: a lit copy of the tile peeps out above each one and a dark
+// copy below, as under a lamp at the top left.
+constexpr double kPebbleRelief = 0.7;
+constexpr double kPebbleLight = 0.1;
+constexpr double kPebbleShade = 0.5;
+
+constexpr double kBezel = 7;
+constexpr double kBezelRadius = 28;
+constexpr double kGlassRadius = 22;
+
+QRectF inset(const QRectF &rect, double by)
+{
+    return rect.adjusted(by, by, -by, -by);
+}
+
+QPainterPath ring(const QRectF &outer, double outerRadius, double width, double innerRadius)
+{
+    QPainterPath path = continuousPath(outer, outerRadius);
+    path.addPath(continuousPath(inset(outer, width), innerRadius));
+    path.setFillRule(Qt::OddEvenFill);
+    return path;
+}
+
+void paint(QPainter &painter, const Body &body)
+{
+    const QRectF area({}, body.size);
+    const double scale = double(body.pixels.width()) / body.size.width();
+    const HVColors &c = body.colors;
+    painter.setClipRegion(QRegion(area.toRect()) - QRegion(body.display.toRect()));
+
+    const QPainterPath metal = continuousPath(area, kBodyRadius);
+    painter.fillPath(metal, verticalBrush(area, c.bodyHi(), c.body(), c.bodyLo()));
+
+    const QPainterPath cover = continuousPath(inset(area, kLeatherInset), kLeatherRadius);
+    const auto layLeather = [&](const QColor &tint, double opacity, double shift) {
+        QBrush leather(Textures::leatherTile(tint, scale));
+        leather.setTransform(QTransform::fromTranslate(shift, shift));
+        painter.setOpacity(opacity);
+        painter.fillPath(cover, leather);
+    };
+    layLeather(gray(1), kPebbleLight, -kPebbleRelief);
+    layLeather(gray(0), kPebbleShade, kPebbleRelief);
+    layLeather(c.leather(), kLeatherOpacity, 0);
+    painter.setOpacity(1);
+
+    paintPanel(painter, area,
+        {
+            .radius = kBodyRadius,
+            .stroke = verticalBrush(area, gray(1, 0.28), {}, gray(0, 0.7)),
+            .strokeWidth = 1.5,
+        });
+}
+
+void paint(QPainter &painter, const Glass &look)
+{
+    const QRectF area({}, look.size);
+    const QRectF glass = inset(area, kBezel);
+    const HVColors &c = look.colors;
+
+    painter.fillPath(ring(area, kBezelRadius, kBezel, kGlassRadius),
+        verticalBrush(area, c.bodyLo(), {}, gray(0.12)));
+    paintPanel(painter, area,
+        {
+            .radius = kBezelRadius,
+            .stroke = verticalBrush(area, gray(0, 0.9), {}, gray(1, 0.18)),
+            .strokeWidth = 1.2,
+        });
+
+    QLinearGradient sheen(glass.topLeft(), glass.center());
+    sheen.setColorAt(0, gray(1, 0.05));
+    sheen.setColorAt(1, gray(1, 0));
+    QColor rim = c.glow();
+    rim.setAlphaF(0.18f);
+    paintPanel(
+        painter, glass, { .radius = kGlassRadius, .fill = sheen, .stroke = rim, .strokeWidth = 1 });
+}
+
+template <typename Look>
+QImage painted(const Look &look)
+{
+    return paintedPicture(look.pixels, [&look](QPainter &painter) {
+        painter.scale(double(look.pixels.width()) / look.size.width(),
+            double(look.pixels.height()) / look.size.height());
+        paint(painter, look);
+    });
+}
+
+template <typename Look>
+struct Kept {
+    Look look;
+    QImage picture;
+};
+
+std::optional<Kept<Body>> keptBody;
+std::optional<Kept<Glass>> keptGlass;
+
+template <typename Look>
+QImage taken(std::optional<Kept<Look>> &kept, const Look &look)
+{
+    if (kept && kept->look == look)
+        return std::exchange(kept, std::nullopt)->picture;
+    return painted(look);
+}
+
+} // namespace
+
+QImage Housing::picture(const Body &body)
+{
+    return taken(keptBody, body);
+}
+
+QImage Housing::picture(const Glass &glass)
+{
+    return taken(keptGlass, glass);
+}
+
+void Housing::paintAhead(const Body &body, const Glass &glass)
+{
+    keptBody = { body, painted(body) };
+    keptGlass = { glass, painted(glass) };
+}
+
+void Housing::forgetAhead()
+{
+    keptBody.reset();
+    keptGlass.reset();
+}
