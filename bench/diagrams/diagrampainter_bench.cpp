@@ -18,7 +18,7 @@ constexpr QSize kThumbnail(42, 27);
 
 void paint(QSize size, DiagramKind kind)
 {
-    const QImage picture = paintedPicture(size, [size, kind](QPainter &painter) {
+    const QImage picture = paintedPicture(size, size, [size, kind](QPainter &painter) {
         const DiagramPainter diagram{ .ctx = painter,
             .size = size,
             .ink = QColor(140, 217, 255),

@@ -29,11 +29,6 @@ constexpr double kBezel = 7;
 constexpr double kBezelRadius = 28;
 constexpr double kGlassRadius = 22;
 
-QRectF inset(const QRectF &rect, double by)
-{
-    return rect.adjusted(by, by, -by, -by);
-}
-
 QPainterPath ring(const QRectF &outer, double outerRadius, double width, double innerRadius)
 {
     QPainterPath path = continuousPath(outer, outerRadius);
@@ -99,11 +94,8 @@ void paint(QPainter &painter, const Glass &look)
 template <typename Look>
 QImage painted(const Look &look)
 {
-    return paintedPicture(look.pixels, [&look](QPainter &painter) {
-        painter.scale(double(look.pixels.width()) / look.size.width(),
-            double(look.pixels.height()) / look.size.height());
-        paint(painter, look);
-    });
+    return paintedPicture(
+        look.pixels, look.size, [&look](QPainter &painter) { paint(painter, look); });
 }
 
 template <typename Look>

@@ -12,3 +12,9 @@
 /// shorter side gives a capsule or a circle; a larger radius gives the same. An empty rectangle
 /// gives an empty path.
 [[nodiscard]] QPainterPath continuousPath(const QRectF &rect, double radius);
+
+/// `rect` without a margin of `by` on every side.
+[[nodiscard]] inline QRectF inset(const QRectF &rect, double by)
+{
+    return rect.adjusted(by, by, -by, -by);
+}

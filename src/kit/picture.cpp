@@ -19,32 +19,34 @@ int bandCount(QSize size, const QThreadPool &pool)
 
 } // namespace
 
-QImage paintedPicture(QSize size, const std::function<void(QPainter &)> &paint)
+QImage paintedPicture(QSize pixels, QSize points, const std::function<void(QPainter &)> &paint)
 {
-    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
-    uchar *const pixels = picture.bits();
-    if (!pixels)
+    QImage picture(pixels, QImage::Format_ARGB32_Premultiplied);
+    uchar *const bits = picture.bits();
+    if (!bits)
         return picture;
 
     const auto paintRows = [&](int from, int to) {
-        QImage band(pixels + from * picture.bytesPerLine(), picture.width(), to - from,
+        QImage band(bits + from * picture.bytesPerLine(), picture.width(), to - from,
             picture.bytesPerLine(), picture.format());
         band.fill(Qt::transparent);
         QPainter painter(&band);
         painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
         painter.translate(0, -from);
+        painter.scale(
+            double(pixels.width()) / points.width(), double(pixels.height()) / points.height());
         paint(painter);
     };
 
     QThreadPool &pool = *QThreadPool::globalInstance();
-    const int bands = bandCount(size, pool);
+    const int bands = bandCount(pixels, pool);
     QSemaphore done;
     for (int band = 0; band < bands; ++band) {
         const auto paintBand = [&, band] {
-            paintRows(band * size.height() / bands, (band + 1) * size.height() / bands);
+            paintRows(band * pixels.height() / bands, (band + 1) * pixels.height() / bands);
             done.release();
         };
-        if (size.height() < kLow)
+        if (pixels.height() < kLow)
             paintBand();
         else
             pool.start(paintBand);

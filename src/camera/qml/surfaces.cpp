@@ -2,6 +2,7 @@
 
 #include "camera/housing.h"
 #include "camera/textures.h"
+#include "kit/continuouspath.h"
 #include "kit/gradients.h"
 #include "kit/softblur.h"
 
@@ -13,11 +14,6 @@ namespace {
 
 constexpr double kRingWidth = 12;
 constexpr double kRingGlow = 6;
-
-QRectF inset(const QRectF &rect, double by)
-{
-    return rect.adjusted(by, by, -by, -by);
-}
 
 // The light on turned metal: two bright fans, opposite each other.
 QBrush turnedSheen(const QPointF &center, double strength)

@@ -4,7 +4,6 @@
 #include "kit/preferences.h"
 #include "kit/zoom.h"
 
-#include <QPainter>
 #include <QQuickWindow>
 #include <QSGImageNode>
 #include <QSGRendererInterface>
@@ -68,12 +67,8 @@ void PaintedItem::paint(QPainter *) { }
 
 QImage PaintedItem::picture()
 {
-    const QSize pixels = textureSize();
-    return paintedPicture(pixels, [this, pixels](QPainter &painter) {
-        painter.scale(pixels.width() / double(shownSize().width()),
-            pixels.height() / double(shownSize().height()));
-        paint(&painter);
-    });
+    return paintedPicture(
+        textureSize(), shownSize(), [this](QPainter &painter) { paint(&painter); });
 }
 
 QSGNode *PaintedItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)

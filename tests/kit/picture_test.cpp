@@ -1,0 +1,65 @@
+// Pictures that are painted elsewhere: on the pool's threads, in bands, in points.
+
+#include "kit/picture.h"
+
+#include <QPainter>
+#include <QThreadPool>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+
+namespace {
+
+void paintTarget(QPainter &painter)
+{
+    painter.fillRect(QRectF(10, 10, 80, 30), Qt::red);
+    painter.setBrush(Qt::blue);
+    painter.drawEllipse(QPointF(50, 50), 30.3, 41.7);
+}
+
+// The same picture by one painter on the calling thread.
+QImage paintedPlainly(QSize pixels, QSize points)
+{
+    QImage picture(pixels, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(
+        double(pixels.width()) / points.width(), double(pixels.height()) / points.height());
+    paintTarget(painter);
+    return picture;
+}
+
+} // namespace
+
+TEST(PaintedPicture, IsWhatOnePainterPaints)
+{
+    // Low, whole, and in as many bands as the pool has threads.
+    for (const QSize size : { QSize(100, 30), QSize(100, 100), QSize(1400, 900) })
+        EXPECT_EQ(paintedPicture(size, size, paintTarget), paintedPlainly(size, size));
+}
+
+TEST(PaintedPicture, IsPaintedInPoints)
+{
+    for (const QSize pixels : { QSize(85, 85), QSize(200, 300), QSize(1500, 1200) })
+        EXPECT_EQ(paintedPicture(pixels, { 100, 100 }, paintTarget),
+            paintedPlainly(pixels, { 100, 100 }));
+}
+
+TEST(PaintedPicture, TakesEveryThreadForALargePictureAlone)
+{
+    std::atomic<int> calls = 0;
+    const auto count = [&calls](QPainter &) { ++calls; };
+    EXPECT_FALSE(paintedPicture({ 300, 300 }, { 300, 300 }, count).isNull());
+    EXPECT_EQ(calls.exchange(0), 1);
+    EXPECT_FALSE(paintedPicture({ 4000, 3000 }, { 4000, 3000 }, count).isNull());
+    EXPECT_EQ(calls, QThreadPool::globalInstance()->maxThreadCount());
+}
+
+TEST(PaintedPicture, OfNoPixelsIsNull)
+{
+    for (const QSize size : { QSize(0, 0), QSize(0, 50), QSize(50, 0), QSize(-3, 5), QSize() }) {
+        EXPECT_TRUE(paintedPicture(size, { 1, 1 }, [](QPainter &) { ADD_FAILURE(); }).isNull());
+    }
+}
