@@ -1,5 +1,5 @@
-// Loading and indexing the course, which a user waits for at each start before the first window
-// shows, and searching it, which happens at each letter typed.
+// Reading the course, which a user waits for at each start before the first window shows; indexing
+// it, which follows; and searching it, which happens at each letter typed.
 //
 // Budget: BM_ReadCourse takes at most 4 times as long as BM_ReadAndDecode, which does no more than
 // read the same files and decode them, and with ten courses in one at most 11 times as long as with

@@ -67,6 +67,7 @@ QFont monospaced(double size, QFont::Weight weight)
 
 void ensureOpen(const QFont &font)
 {
+    // A single character would be measured without the tables that texts are shaped by.
     std::ignore = QFontMetricsF(font).horizontalAdvance(u"f/2 a"_s);
 }
 
