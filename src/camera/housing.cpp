@@ -37,6 +37,29 @@ QPainterPath ring(const QRectF &outer, double outerRadius, double width, double 
     return path;
 }
 
+// The three layers over one another, ready to be laid on the metal: a fill of a tile that lies on
+// whole pixels takes a tenth of the time of one that lies between them.
+QImage reliefTile(const QColor &tint, double scale)
+{
+    QImage tile = Textures::leatherTile(gray(0), scale);
+    const QImage black = tile;
+    tile.fill(Qt::transparent);
+
+    QPainter painter(&tile);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    const auto lay = [&painter](const QImage &pebbles, double opacity, double shift) {
+        QBrush leather(pebbles);
+        leather.setTransform(QTransform::fromTranslate(shift, shift));
+        painter.setOpacity(opacity);
+        painter.fillRect(
+            QRectF(0, 0, Textures::leatherTileSide, Textures::leatherTileSide), leather);
+    };
+    lay(Textures::leatherTile(gray(1), scale), kPebbleLight, -kPebbleRelief);
+    lay(black, kPebbleShade, kPebbleRelief);
+    lay(Textures::leatherTile(tint, scale), kLeatherOpacity, 0);
+    return tile;
+}
+
 void paint(QPainter &painter, const Body &body)
 {
     const QRectF area({}, body.size);
@@ -47,17 +70,8 @@ void paint(QPainter &painter, const Body &body)
     const QPainterPath metal = continuousPath(area, kBodyRadius);
     painter.fillPath(metal, verticalBrush(area, c.bodyHi(), c.body(), c.bodyLo()));
 
-    const QPainterPath cover = continuousPath(inset(area, kLeatherInset), kLeatherRadius);
-    const auto layLeather = [&](const QColor &tint, double opacity, double shift) {
-        QBrush leather(Textures::leatherTile(tint, scale));
-        leather.setTransform(QTransform::fromTranslate(shift, shift));
-        painter.setOpacity(opacity);
-        painter.fillPath(cover, leather);
-    };
-    layLeather(gray(1), kPebbleLight, -kPebbleRelief);
-    layLeather(gray(0), kPebbleShade, kPebbleRelief);
-    layLeather(c.leather(), kLeatherOpacity, 0);
-    painter.setOpacity(1);
+    painter.fillPath(
+        continuousPath(inset(area, kLeatherInset), kLeatherRadius), reliefTile(c.leather(), scale));
 
     paintPanel(painter, area,
         {
