@@ -30,9 +30,9 @@ TestCase {
     }
     function test_fills_its_share(data) {
         const item = createTemporaryObject(bars, test, { done: data.done, total: data.total });
-        const track = item.children[0];
-        const fill = item.children[1];
-        compare(track.width, 200);
+        const fill = item.children[0];
+        compare(item.width, 200);
+        compare(String(item.color), String(Qt.alpha(CameraPalette.current.glow, 0.12)));
         compare(fill.width, data.width);
         compare(fill.visible, data.width > 0);
         compare(fill.height, 4);

@@ -40,14 +40,8 @@ TestCase {
         const item = createTemporaryObject(words, test, { text: "<b>x</b>" });
         compare(item.Accessible.role, Accessible.StaticText);
         compare(item.Accessible.name, "<b>x</b>");
-        verify(!item.Accessible.ignored);
         item.text = "other";
         compare(item.Accessible.name, "other");
-    }
-
-    function test_is_passed_over_when_decorative() {
-        const item = createTemporaryObject(words, test, { text: "x", decorative: true });
-        verify(item.Accessible.ignored);
     }
 
     function test_takes_font_and_color_from_the_kit() {

@@ -97,7 +97,7 @@ TestCase {
     }
 
     function test_shows_the_focus_that_came_by_keyboard_alone() {
-        const rings = () => Find.all(button, item => item.gap !== undefined && item.cornerRadius !== undefined && item.ink !== undefined);
+        const rings = () => Find.all(button, item => item.gap !== undefined && item.strokeFrom !== undefined);
         compare(rings().length, 0);
         button.forceActiveFocus(Qt.MouseFocusReason);
         compare(rings().length, 0);
@@ -106,6 +106,35 @@ TestCase {
         compare(rings().length, 1);
         button.focus = false;
         compare(rings().length, 0);
+    }
+
+    function test_ring_lies_around_it() {
+        button.cornerRadius = 12;
+        button.focusInk = "#40c080";
+        button.forceActiveFocus(Qt.TabFocusReason);
+        const ring = Find.first(button, item => item.gap !== undefined);
+        compare(ring.mapToItem(button, 0, 0), Qt.point(-3, -3));
+        compare([ring.width, ring.height], [106, 46]);
+        compare(ring.radius, 15);
+        compare(String(ring.strokeFrom), "#40c080");
+    }
+
+    function tips() {
+        const overlay = test.Window.window.contentItem.parent ?? test.Window.window.contentItem;
+        return Find.texts(overlay).filter(text => text.startsWith("Opens"));
+    }
+
+    function test_tells_its_tip_under_the_pointer() {
+        button.text = "Open";
+        button.tip = "Opens the course";
+        mouseMove(button, 300, 200);
+        compare(tips(), []);
+        mouseMove(button, 50, 20);
+        tryVerify(() => tips().length === 1);
+        button.tip = "Opens the lesson";
+        compare(tips(), ["Opens the lesson"]);
+        mouseMove(button, 300, 200);
+        tryVerify(() => tips().length === 0);
     }
 
     function test_is_as_large_as_its_content_and_padding() {

@@ -124,7 +124,7 @@ TestCase {
 
     function test_fills_the_bars_of_its_cards() {
         World.finish(["l2"]);
-        const fill = card => Find.first(card, item => item.done !== undefined && item.total !== undefined && item.height === 4).children[1];
+        const fill = card => Find.first(card, item => item.done !== undefined && item.total !== undefined && item.height === 4).children[0];
         compare(fill(cards()[0]).width, fill(cards()[0]).parent.width / 2);
         compare(fill(cards()[1]).width, 0);
         // Nothing of nothing is nothing.

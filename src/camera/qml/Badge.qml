@@ -17,10 +17,9 @@ Item {
         strokeWidth: 1
         strokeFrom: CNUI.gray(0, 0.6)
     }
-    HvText {
+    MuteHvText {
         anchors.centerIn: parent
         text: "CRVN"
-        decorative: true
         color: CNUI.gray(0, 0.8)
         font: CNUI.cnFont(8.5, Font.Black)
     }

@@ -20,7 +20,7 @@ Pressable {
     contentItem: Item {
         id: inner
     }
-    background: OLEDCard {
+    background: CardSurface {
         c: root.c
         raised: root.hovered
     }

@@ -23,25 +23,22 @@ Item {
     Accessible.role: Accessible.StaticText
     Accessible.name: root.text
 
-    HvText {
+    MuteHvText {
         y: metrics.cut
         text: root.text
         font: metrics.face
         color: CNUI.gray(1, 0.14)
-        decorative: true
     }
-    HvText {
+    MuteHvText {
         y: -metrics.cut
         text: root.text
         font: metrics.face
         color: CNUI.gray(0, 0.85)
-        decorative: true
     }
-    HvText {
+    MuteHvText {
         id: top
         text: root.text
         font: metrics.face
         color: root.c.engrave
-        decorative: true
     }
 }

@@ -37,13 +37,12 @@ Pressable {
             weight: Font.Bold
             ink: metrics.ink
         }
-        HvText {
+        MuteHvText {
             id: label
             x: mark.visible ? mark.width + root.spacing : 0
             width: parent.width - x
             anchors.verticalCenter: parent.verticalCenter
             text: root.text
-            decorative: true
             elide: Text.ElideRight
             color: metrics.ink
             font: CNUI.cnFont(metrics.fontSize, Font.Bold)

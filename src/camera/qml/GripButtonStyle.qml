@@ -14,6 +14,8 @@ Pressable {
         id: metrics
         readonly property color ink: root.selected || root.hovered ? root.c.oledText : root.c.engrave
         readonly property real lift: root.hovered ? 0.06 : 0
+        readonly property color ground: CNUI.gray(0.07)
+        readonly property size mark: Qt.size(20, 18)
     }
 
     horizontalPadding: 12
@@ -24,28 +26,22 @@ Pressable {
 
     contentItem: Item {
         implicitWidth: label.x + label.implicitWidth
-        implicitHeight: Math.max(mark.height, label.implicitHeight)
-        Item {
-            id: mark
-            width: 20
-            height: 18
+        implicitHeight: Math.max(metrics.mark.height, label.implicitHeight)
+        Symbol {
+            x: (metrics.mark.width - width) / 2
             anchors.verticalCenter: parent.verticalCenter
-            Symbol {
-                anchors.centerIn: parent
-                name: root.symbol
-                pointSize: 14
-                weight: Font.DemiBold
-                ink: metrics.ink
-            }
+            name: root.symbol
+            pointSize: 14
+            weight: Font.DemiBold
+            ink: metrics.ink
         }
-        HvText {
+        MuteHvText {
             id: label
-            x: mark.width + 8
+            x: metrics.mark.width + 8
             // The longest title may use some of the padding.
             width: parent.width - x + root.rightPadding - 4
             anchors.verticalCenter: parent.verticalCenter
             text: root.text
-            decorative: true
             color: metrics.ink
             font: CNUI.cnFont(12.5, Font.Bold)
             elide: Text.ElideRight
@@ -62,13 +58,10 @@ Pressable {
         ContinuousRectangle {
             anchors.fill: parent
             radius: 10
-            fillFrom: CNUI.gray(0.07)
-        }
-        ContinuousRectangle {
-            anchors.fill: parent
-            radius: 10
-            fillFrom: root.selected ? Qt.alpha(root.c.accent, 0.95) : CNUI.gray(0.2 + metrics.lift)
-            fillTo: root.selected ? Qt.alpha(root.c.accent, 0.55) : CNUI.gray(0.07 + metrics.lift)
+            fillFrom: root.selected ? Qt.tint(metrics.ground, Qt.alpha(root.c.accent, 0.95))
+                                    : CNUI.gray(0.2 + metrics.lift)
+            fillTo: root.selected ? Qt.tint(metrics.ground, Qt.alpha(root.c.accent, 0.55))
+                                  : CNUI.gray(0.07 + metrics.lift)
             strokeWidth: 1
             strokeFrom: CNUI.gray(1, 0.3)
             strokeTo: CNUI.gray(0, 0.8)

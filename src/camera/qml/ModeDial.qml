@@ -53,9 +53,8 @@ Row {
                 }
             }
         }
-        contentItem: HvText {
+        contentItem: MuteHvText {
             text: AppModel.screenShortTitle
-            decorative: true
             color: root.c.glow
             font: CNUI.cnFont(9, Font.Black)
             horizontalAlignment: Text.AlignHCenter

@@ -35,17 +35,15 @@ Item {
     Column {
         anchors.centerIn: parent
         spacing: 2
-        HvText {
+        MuteHvText {
             anchors.horizontalCenter: parent.horizontalCenter
             text: qsTr("%1%").arg(Math.floor(metrics.fraction * 100))
-            decorative: true
             font: CNUI.cnFont(30, Font.ExtraBold)
             color: root.c.oledText
         }
-        HvText {
+        MuteHvText {
             anchors.horizontalCenter: parent.horizontalCenter
             text: qsTr("%1 of %2 lessons").arg(root.done).arg(root.total)
-            decorative: true
             font: CNUI.cnFont(11, Font.DemiBold)
             color: root.c.oledDim
         }

@@ -2,36 +2,28 @@ import QtQuick
 import Halvorin.Kit
 
 /*! A word in a tinted capsule, such as a lesson's level. */
-Item {
+ContinuousRectangle {
     id: root
 
     required property string text
     required property color color
 
-    QtObject {
-        id: metrics
-        readonly property size pad: Qt.size(7, 2.5)
-    }
-
-    implicitWidth: label.implicitWidth + 2 * metrics.pad.width
-    implicitHeight: label.implicitHeight + 2 * metrics.pad.height
+    implicitWidth: label.implicitWidth + 14
+    implicitHeight: label.implicitHeight + 5
     visible: root.text !== ""
+
+    radius: height / 2
+    fillFrom: Qt.alpha(root.color, 0.13)
+    strokeWidth: 0.8
+    strokeFrom: Qt.alpha(root.color, 0.5)
 
     Accessible.role: Accessible.StaticText
     Accessible.name: root.text
 
-    ContinuousRectangle {
-        anchors.fill: parent
-        radius: height / 2
-        fillFrom: Qt.alpha(root.color, 0.13)
-        strokeWidth: 0.8
-        strokeFrom: Qt.alpha(root.color, 0.5)
-    }
-    HvText {
+    MuteHvText {
         id: label
         anchors.centerIn: parent
         text: root.text.toUpperCase()
-        decorative: true
         color: root.color
         font: CNUI.cnFont(9.5, Font.ExtraBold, 0.7)
     }

@@ -22,11 +22,10 @@ Item {
         strokeFrom: CNUI.gray(1, 0.35)
         strokeTo: CNUI.gray(1, 0.12)
     }
-    HvText {
+    MuteHvText {
         id: label
         anchors.centerIn: parent
         text: root.text
-        decorative: true
         font: CNUI.cnFont(10, Font.ExtraBold)
     }
 }

@@ -19,9 +19,8 @@ Pressable {
     cornerRadius: height / 2
     opacity: root.down ? 0.75 : 1
 
-    contentItem: HvText {
+    contentItem: MuteHvText {
         text: root.text
-        decorative: true
         color: "white"
         font: CNUI.cnFont(root.compact ? 11 : 12.5, Font.Bold)
         horizontalAlignment: Text.AlignHCenter

@@ -18,10 +18,9 @@ T.MenuBar {
         implicitHeight: 28
         Accessible.name: title.text
 
-        contentItem: HvText {
+        contentItem: MuteHvText {
             id: title
             text: CNUI.withoutMnemonic(item.text)
-            decorative: true
             font: CNUI.cnFont(12, Font.Medium)
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter

@@ -22,22 +22,20 @@ T.MenuItem {
             weight: Font.Bold
             ink: CNUI.theme.text
         }
-        HvText {
+        MuteHvText {
             id: title
             x: 26
             anchors.verticalCenter: parent.verticalCenter
             text: CNUI.withoutMnemonic(root.text)
-            decorative: true
             font: CNUI.cnFont(12)
             color: CNUI.theme.text
         }
-        HvText {
+        MuteHvText {
             id: keyHint
             anchors.right: parent.right
             anchors.rightMargin: 10
             anchors.verticalCenter: parent.verticalCenter
             text: root.subMenu ? "" : root.keys
-            decorative: true
             font: CNUI.cnFont(11)
             color: CNUI.theme.dim
         }

@@ -7,8 +7,12 @@ import Halvorin.Kit
 T.ToolTip {
     id: root
 
+    required property Pressable control
+
     readonly property real zoom: CNZoom.zoom
 
+    text: root.control.tip
+    visible: true
     x: parent ? Math.round((parent.width - implicitWidth / root.zoom) / 2) : 0
     y: parent ? parent.height + 6 : 0
     implicitWidth: words.implicitWidth + leftPadding + rightPadding

@@ -5,13 +5,13 @@ import Halvorin.Kit
 ContinuousRectangle {
     id: root
 
-    property real gap: 3
-    property real cornerRadius: 10
-    property color ink: CNUI.theme.text
+    required property Pressable control
+
+    readonly property real gap: 3
 
     anchors.fill: parent
     anchors.margins: -root.gap
-    radius: root.cornerRadius + root.gap
+    radius: root.control.cornerRadius + root.gap
     strokeWidth: 2
-    strokeFrom: root.ink
+    strokeFrom: root.control.focusInk
 }

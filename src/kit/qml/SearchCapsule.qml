@@ -71,11 +71,10 @@ Item {
                 root.edited("");
         }
 
-        HvText {
+        MuteHvText {
             anchors.fill: parent
             visible: field.text === "" && field.preeditText === ""
             text: root.prompt
-            decorative: true
             color: root.dimInk
             font: field.font
             elide: Text.ElideRight

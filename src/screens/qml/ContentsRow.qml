@@ -41,12 +41,11 @@ Pressable {
             font: label.font
             text: "X"
         }
-        HvText {
+        MuteHvText {
             id: label
             x: metrics.markWidth + metrics.gap
             width: parent.width - x
             text: root.text
-            decorative: true
             font: CNUI.cnFont(root.fontSize, root.weight)
             color: root.ink
             wrapMode: Text.Wrap

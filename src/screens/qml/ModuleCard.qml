@@ -33,28 +33,25 @@ CardButton {
                 color: CameraPalette.levelColor(root.level, root.c)
                 Accessible.ignored: true
             }
-            HvText {
+            MuteHvText {
                 id: count
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("%1/%2").arg(root.doneIn).arg(root.lessonsIn)
-                decorative: true
                 font: CNUI.cnMono(11, Font.Bold)
                 color: root.c.oledDim
             }
         }
-        HvText {
+        MuteHvText {
             width: parent.width
             text: root.title
-            decorative: true
             font: CNUI.cnFont(14, Font.ExtraBold)
             color: root.c.oledText
             wrapMode: Text.Wrap
         }
-        HvText {
+        MuteHvText {
             width: parent.width
             text: root.summary
-            decorative: true
             font: CNUI.cnFont(11.5)
             color: root.c.oledDim
             wrapMode: Text.Wrap

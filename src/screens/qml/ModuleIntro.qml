@@ -49,31 +49,28 @@ HVScroll {
                 width: parent.width
                 height: Math.max(title.implicitHeight, 18)
 
-                HvText {
+                MuteHvText {
                     id: number
                     anchors.verticalCenter: parent.verticalCenter
                     text: card.number
-                    decorative: true
                     font: CNUI.cnMono(13, Font.ExtraBold)
                     color: root.c.glow
                 }
-                HvText {
+                MuteHvText {
                     id: title
                     x: 24
                     width: parent.width - x - minutes.width - 12
                     anchors.verticalCenter: parent.verticalCenter
                     text: card.title
-                    decorative: true
                     font: CNUI.cnFont(13.5, Font.DemiBold)
                     color: root.c.oledText
                     wrapMode: Text.Wrap
                 }
-                HvText {
+                MuteHvText {
                     id: minutes
                     anchors.right: parent.right
                     anchors.verticalCenter: parent.verticalCenter
                     text: qsTr("%1 min").arg(card.minutes)
-                    decorative: true
                     font: CNUI.cnFont(11)
                     color: root.c.oledDim
                 }

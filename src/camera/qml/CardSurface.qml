@@ -1,0 +1,16 @@
+import QtQuick
+import Halvorin.Kit
+import Halvorin.Camera
+
+/*! What a card on the display is made of. */
+ContinuousRectangle {
+    id: root
+
+    required property hvColors c
+    property bool raised: false
+
+    radius: 16
+    fillFrom: root.raised ? Qt.lighter(root.c.oledCard, 1.35) : root.c.oledCard
+    strokeWidth: 1
+    strokeFrom: Qt.alpha(root.c.glow, root.raised ? 0.4 : 0.16)
+}

@@ -1,0 +1,59 @@
+#include "buttonbehavior.h"
+
+#include <QCursor>
+#include <QKeyEvent>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+void ButtonBehavior::setShowsRing(bool shows)
+{
+    if (m_showsRing == shows)
+        return;
+    m_showsRing = shows;
+    show(m_ring, shows, u"FocusRing.qml"_s);
+    Q_EMIT showsRingChanged();
+}
+
+void ButtonBehavior::setShowsTip(bool shows)
+{
+    if (m_showsTip == shows)
+        return;
+    m_showsTip = shows;
+    show(m_tip, shows, u"CNTip.qml"_s);
+    Q_EMIT showsTipChanged();
+}
+
+void ButtonBehavior::componentComplete()
+{
+    if (QQuickItem *item = button()) {
+        item->setCursor(Qt::PointingHandCursor);
+        item->installEventFilter(this);
+    }
+}
+
+bool ButtonBehavior::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            QMetaObject::invokeMethod(watched, "clicked");
+            return true;
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void ButtonBehavior::show(std::unique_ptr<QObject> &ornament, bool shows, const QString &file)
+{
+    ornament.reset();
+    QQuickItem *item = button();
+    if (!shows || !item)
+        return;
+    QQmlComponent component(qmlEngine(item), QUrl(u"qrc:/qt/qml/Halvorin/Kit/"_s + file));
+    const QVariant place = QVariant::fromValue(item);
+    ornament.reset(component.createWithInitialProperties(
+        { { u"parent"_s, place }, { u"control"_s, place } }, qmlContext(item)));
+}
