@@ -18,14 +18,15 @@ constexpr QSize kThumbnail(42, 27);
 
 void paint(QSize size, DiagramKind kind)
 {
-    const QImage picture = paintedPicture(size, size, [size, kind](QPainter &painter) {
-        const DiagramPainter diagram{ .ctx = painter,
-            .size = size,
-            .ink = QColor(140, 217, 255),
-            .text = QColor(219, 219, 219) };
-        diagram.draw(kind);
-    });
-    benchmark::DoNotOptimize(picture.constBits());
+    const std::shared_future<QImage> picture
+        = startPicture(size, size, [size, kind](QPainter &painter) {
+              const DiagramPainter diagram{ .ctx = painter,
+                  .size = size,
+                  .ink = QColor(140, 217, 255),
+                  .text = QColor(219, 219, 219) };
+              diagram.draw(kind);
+          });
+    benchmark::DoNotOptimize(picture.get().constBits());
 }
 
 void BM_PaintTheLargestDrawing(benchmark::State &state)

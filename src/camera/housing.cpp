@@ -106,45 +106,45 @@ void paint(QPainter &painter, const Glass &look)
 }
 
 template <typename Look>
-QImage painted(const Look &look)
+std::shared_future<QImage> started(const Look &look)
 {
-    return paintedPicture(
-        look.pixels, look.size, [&look](QPainter &painter) { paint(painter, look); });
+    return startPicture(
+        look.pixels, look.size, [look](QPainter &painter) { paint(painter, look); });
 }
 
 template <typename Look>
 struct Kept {
     Look look;
-    QImage picture;
+    std::shared_future<QImage> picture;
 };
 
 std::optional<Kept<Body>> keptBody;
 std::optional<Kept<Glass>> keptGlass;
 
 template <typename Look>
-QImage taken(std::optional<Kept<Look>> &kept, const Look &look)
+std::shared_future<QImage> taken(std::optional<Kept<Look>> &kept, const Look &look)
 {
     if (kept && kept->look == look)
         return std::exchange(kept, std::nullopt)->picture;
-    return painted(look);
+    return started(look);
 }
 
 } // namespace
 
-QImage Housing::picture(const Body &body)
+std::shared_future<QImage> Housing::startedPicture(const Body &body)
 {
     return taken(keptBody, body);
 }
 
-QImage Housing::picture(const Glass &glass)
+std::shared_future<QImage> Housing::startedPicture(const Glass &glass)
 {
     return taken(keptGlass, glass);
 }
 
-void Housing::paintAhead(const Body &body, const Glass &glass)
+void Housing::startAhead(const Body &body, const Glass &glass)
 {
-    keptBody = { body, painted(body) };
-    keptGlass = { glass, painted(glass) };
+    keptBody = { body, started(body) };
+    keptGlass = { glass, started(glass) };
 }
 
 void Housing::forgetAhead()

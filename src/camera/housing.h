@@ -7,6 +7,8 @@
 #include <QRectF>
 #include <QSize>
 
+#include <future>
+
 namespace Housing {
 
 struct Body {
@@ -26,17 +28,16 @@ struct Glass {
     friend bool operator==(const Glass &, const Glass &) = default;
 };
 
-/// Metal, leather and a lit edge.
-[[nodiscard]] QImage picture(const Body &body);
+/// Starts metal, leather and a lit edge.
+[[nodiscard]] std::shared_future<QImage> startedPicture(const Body &body);
 
-/// Bezel, inner glow and the sheen of the glass.
-[[nodiscard]] QImage picture(const Glass &glass);
+/// Starts bezel, inner glow and the sheen of the glass.
+[[nodiscard]] std::shared_future<QImage> startedPicture(const Glass &glass);
 
-/// Paints both for the first who asks for such a body and such a glass. It may run in a thread of
-/// its own, if nobody asks before it has returned.
-void paintAhead(const Body &body, const Glass &glass);
+/// Starts both for the first who asks for such a body and such a glass.
+void startAhead(const Body &body, const Glass &glass);
 
-/// Drops what was painted ahead and nobody has asked for.
+/// Drops what was started ahead and nobody has asked for.
 void forgetAhead();
 
 } // namespace Housing

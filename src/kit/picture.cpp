@@ -1,14 +1,12 @@
 #include "kit/picture.h"
 
 #include <QPainter>
-#include <QSemaphore>
-#include <QThreadPool>
 
 #include <algorithm>
+#include <atomic>
 
 namespace {
 
-constexpr int kLow = 40;               // rows; too few runs of pixels for a fill to be divided
 constexpr int kLeastBand = 128 * 1024; // pixels
 
 int bandCount(QSize size, const QThreadPool &pool)
@@ -17,40 +15,70 @@ int bandCount(QSize size, const QThreadPool &pool)
     return std::clamp(worthwhile, 1, std::min(pool.maxThreadCount(), size.height()));
 }
 
-} // namespace
-
-QImage paintedPicture(QSize pixels, QSize points, const std::function<void(QPainter &)> &paint)
+class Painting
 {
-    QImage picture(pixels, QImage::Format_ARGB32_Premultiplied);
-    uchar *const bits = picture.bits();
-    if (!bits)
-        return picture;
+public:
+    Painting(QSize pixels, QSize points, std::function<void(QPainter &)> paint)
+        : m_picture(pixels, QImage::Format_ARGB32_Premultiplied)
+        , m_bits(m_picture.bits())
+        , m_points(points)
+        , m_paint(std::move(paint))
+    { }
 
-    const auto paintRows = [&](int from, int to) {
-        QImage band(bits + from * picture.bytesPerLine(), picture.width(), to - from,
-            picture.bytesPerLine(), picture.format());
+    [[nodiscard]] bool isNull() const { return m_picture.isNull(); }
+    [[nodiscard]] std::shared_future<QImage> future() { return m_done.get_future().share(); }
+
+    void setBands(int count) { m_bandsLeft = count; }
+    void paintBand(int from, int to)
+    {
+        paintRows(from, to);
+        if (--m_bandsLeft == 0)
+            finish();
+    }
+    void finish() { m_done.set_value(m_picture); }
+
+private:
+    void paintRows(int from, int to) const
+    {
+        QImage band(m_bits + from * m_picture.bytesPerLine(), m_picture.width(), to - from,
+            m_picture.bytesPerLine(), m_picture.format());
         band.fill(Qt::transparent);
         QPainter painter(&band);
         painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
         painter.translate(0, -from);
-        painter.scale(
-            double(pixels.width()) / points.width(), double(pixels.height()) / points.height());
-        paint(painter);
-    };
+        painter.scale(double(m_picture.width()) / m_points.width(),
+            double(m_picture.height()) / m_points.height());
+        m_paint(painter);
+    }
+
+    QImage m_picture;
+    uchar *m_bits; ///< nullptr where there are no pixels.
+    QSize m_points;
+    std::function<void(QPainter &)> m_paint;
+    std::atomic<int> m_bandsLeft = 0;
+    std::promise<QImage> m_done;
+};
+
+} // namespace
+
+std::shared_future<QImage> startPicture(
+    QSize pixels, QSize points, std::function<void(QPainter &)> paint)
+{
+    const auto painting = std::make_shared<Painting>(pixels, points, std::move(paint));
+    std::shared_future<QImage> picture = painting->future();
+    if (painting->isNull()) {
+        painting->finish();
+        return picture;
+    }
 
     QThreadPool &pool = *QThreadPool::globalInstance();
+    const int height = pixels.height();
     const int bands = bandCount(pixels, pool);
-    QSemaphore done;
+    painting->setBands(bands);
     for (int band = 0; band < bands; ++band) {
-        const auto paintBand = [&, band] {
-            paintRows(band * pixels.height() / bands, (band + 1) * pixels.height() / bands);
-            done.release();
-        };
-        if (pixels.height() < kLow)
-            paintBand();
-        else
-            pool.start(paintBand);
+        pool.start([painting, from = band * height / bands, to = (band + 1) * height / bands] {
+            painting->paintBand(from, to);
+        });
     }
-    done.acquire(bands);
     return picture;
 }

@@ -2,21 +2,39 @@
 #pragma once
 
 #include <QImage>
+#include <QSize>
+#include <QThreadPool>
 
 #include <functional>
+#include <future>
+#include <memory>
+#include <type_traits>
+#include <utility>
 
 class QPainter;
 
-/// A picture of so many pixels, transparent but for what `paint` paints; edges are smoothed. The
-/// painter counts in points, of which the picture shows `points`; none may be 0 where there are
-/// pixels. A large picture is painted in bands on several threads: `paint` is called for each, on a
-/// painter that takes in no more than its band.
+/// Starts to paint a picture of so many pixels, transparent but for what `paint` paints; edges are
+/// smoothed. The painter counts in points, of which the picture shows `points`; none may be 0 where
+/// there are pixels. A large picture is painted in bands on several threads: `paint` is called for
+/// each, on a painter that takes in no more than its band. All calls are over when the picture is
+/// ready.
 ///
 /// Qt's rasterizer cuts a fill of about a hundred runs of pixels or more into pieces for the global
 /// thread pool, and waits for them. Nearly all of our fills are done before the first piece has
 /// reached its thread, so that a drawing of many small shapes takes twice as long. On a thread of
-/// that pool the rasterizer fills by itself, so `paint` is called there unless the picture is low.
-/// Nothing else of ours may run in the global pool: this would wait behind it. A thread of the pool
-/// opens fonts of its own; what is mostly text is better painted without this.
-[[nodiscard]] QImage paintedPicture(
-    QSize pixels, QSize points, const std::function<void(QPainter &)> &paint);
+/// that pool the rasterizer fills by itself, so `paint` is called there. Nothing but pictures may
+/// run in the global pool: these would wait behind it. A thread of the pool opens fonts of its own;
+/// what is mostly text is better painted without this.
+[[nodiscard]] std::shared_future<QImage> startPicture(
+    QSize pixels, QSize points, std::function<void(QPainter &)> paint);
+
+/// Starts `make`, which makes a picture by other means, where pictures are painted. It must not
+/// wait for another of them.
+template <typename Make>
+[[nodiscard]] auto startBesidePictures(Make make)
+{
+    using Task = std::packaged_task<std::invoke_result_t<Make>()>;
+    const auto task = std::make_shared<Task>(std::move(make));
+    QThreadPool::globalInstance()->start([task] { (*task)(); });
+    return task->get_future().share();
+}

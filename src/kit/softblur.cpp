@@ -1,8 +1,10 @@
 #include "kit/softblur.h"
 
 #include "kit/continuouspath.h"
+#include "kit/picture.h"
 
 #include <QHash>
+#include <QMutex>
 #include <QPainter>
 
 #include <array>
@@ -86,6 +88,19 @@ QImage lengthened(const QImage &picture, QSize size)
     return result;
 }
 
+// A rounded rectangle of `size` with the margin that softBlur() wants.
+QImage roundedMask(QSize size, int cornerRadius, int margin)
+{
+    const QMargins margins(margin, margin, margin, margin);
+    QImage mask(size.grownBy(margins), QImage::Format_ARGB32_Premultiplied);
+    mask.fill(Qt::transparent);
+    QPainter painter(&mask);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(
+        continuousPath(QRectF(mask.rect().marginsRemoved(margins)), cornerRadius), Qt::black);
+    return mask;
+}
+
 struct PatchKey {
     QSize size; ///< Of the shape as it is drawn in the picture.
     int cornerRadius;
@@ -139,9 +154,11 @@ QImage softBlur(const QImage &mask, double radius, const QColor &color)
     return result;
 }
 
-ShadowPatch shadowPatch(QSize size, int cornerRadius, int blurRadius, const QColor &color)
+std::shared_future<ShadowPatch> startShadowPatch(
+    QSize size, int cornerRadius, int blurRadius, const QColor &color)
 {
-    static QHash<PatchKey, ShadowPatch> patches;
+    static QMutex mutex;
+    static QHash<PatchKey, std::shared_future<ShadowPatch>> patches;
 
     // A continuous corner eases over 1.6 radii, and the blur reaches inwards as far as outwards.
     const int corner = int(std::ceil(1.6 * cornerRadius)) + blurRadius;
@@ -150,22 +167,17 @@ ShadowPatch shadowPatch(QSize size, int cornerRadius, int blurRadius, const QCol
     const bool stretches = shape == smallest;
 
     const PatchKey key{ stretches ? smallest : size, cornerRadius, blurRadius, color.rgba() };
-    if (const auto found = patches.constFind(key); found != patches.constEnd())
-        return *found;
+    const QMutexLocker lock(&mutex);
+    std::shared_future<ShadowPatch> &patch = patches[key];
+    if (patch.valid())
+        return patch;
 
-    const QMargins margin(blurRadius, blurRadius, blurRadius, blurRadius);
-    QImage mask(shape.grownBy(margin), QImage::Format_ARGB32_Premultiplied);
-    mask.fill(Qt::transparent);
-    {
-        QPainter painter(&mask);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.fillPath(
-            continuousPath(QRectF(mask.rect().marginsRemoved(margin)), cornerRadius), Qt::black);
-    }
-    const QImage blurred = softBlur(mask, blurRadius, color);
-    const ShadowPatch patch = stretches
-        ? ShadowPatch{ blurred, corner + blurRadius }
-        : ShadowPatch{ lengthened(blurred, size.grownBy(margin)), 0 };
-    patches.insert(key, patch);
+    patch = startBesidePictures([=] {
+        const QImage mask = roundedMask(shape, cornerRadius, blurRadius);
+        const QImage blurred = softBlur(mask, blurRadius, color);
+        if (stretches)
+            return ShadowPatch{ blurred, corner + blurRadius };
+        return ShadowPatch{ lengthened(blurred, mask.size() + size - shape), 0 };
+    });
     return patch;
 }

@@ -4,6 +4,8 @@
 #include <QColor>
 #include <QImage>
 
+#include <future>
+
 /// Blurs the opacity of a picture and fills it with one colour.
 ///
 /// mask     any format; only its alpha channel counts. Leave `radius` pixels of empty margin on
@@ -19,9 +21,9 @@ struct ShadowPatch {
     int border = 0; ///< Device pixels on each side; 0 if the picture fits only its own shape.
 };
 
-/// The shadow of a rounded rectangle of `size`, corners of `cornerRadius`, blurred by
+/// Starts the shadow of a rounded rectangle of `size`, corners of `cornerRadius`, blurred by
 /// `blurRadius`; all in device pixels. The picture holds `blurRadius` of margin on all sides. For
 /// a large shape it is small and meant to be stretched as a nine-patch, so it serves every large
 /// size; a small shape gets a picture of its own. Pictures are kept: asking again costs nothing.
-[[nodiscard]] ShadowPatch shadowPatch(
+[[nodiscard]] std::shared_future<ShadowPatch> startShadowPatch(
     QSize size, int cornerRadius, int blurRadius, const QColor &color);

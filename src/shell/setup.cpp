@@ -53,7 +53,7 @@ Housing::Body firstBody(double ratio, const HVColors &colors)
 {
     constexpr QSize kSize(1412, 892);
     return { .size = kSize,
-        .display = QRectF(248, 138, 1104, 708),
+        .display = QRectF(248, 155, 1104, 674),
         .colors = colors,
         .pixels = (QSizeF(kSize) * ratio).toSize() };
 }

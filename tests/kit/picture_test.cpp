@@ -11,6 +11,11 @@
 
 namespace {
 
+QImage painted(QSize pixels, QSize points, const std::function<void(QPainter &)> &paint)
+{
+    return startPicture(pixels, points, paint).get();
+}
+
 void paintTarget(QPainter &painter)
 {
     painter.fillRect(QRectF(10, 10, 80, 30), Qt::red);
@@ -33,33 +38,32 @@ QImage paintedPlainly(QSize pixels, QSize points)
 
 } // namespace
 
-TEST(PaintedPicture, IsWhatOnePainterPaints)
+TEST(StartedPicture, IsWhatOnePainterPaints)
 {
     // Low, whole, and in as many bands as the pool has threads.
     for (const QSize size : { QSize(100, 30), QSize(100, 100), QSize(1400, 900) })
-        EXPECT_EQ(paintedPicture(size, size, paintTarget), paintedPlainly(size, size));
+        EXPECT_EQ(painted(size, size, paintTarget), paintedPlainly(size, size));
 }
 
-TEST(PaintedPicture, IsPaintedInPoints)
+TEST(StartedPicture, IsPaintedInPoints)
 {
     for (const QSize pixels : { QSize(85, 85), QSize(200, 300), QSize(1500, 1200) })
-        EXPECT_EQ(paintedPicture(pixels, { 100, 100 }, paintTarget),
-            paintedPlainly(pixels, { 100, 100 }));
+        EXPECT_EQ(painted(pixels, { 100, 100 }, paintTarget), paintedPlainly(pixels, { 100, 100 }));
 }
 
-TEST(PaintedPicture, TakesEveryThreadForALargePictureAlone)
+TEST(StartedPicture, TakesEveryThreadForALargePictureAlone)
 {
     std::atomic<int> calls = 0;
     const auto count = [&calls](QPainter &) { ++calls; };
-    EXPECT_FALSE(paintedPicture({ 300, 300 }, { 300, 300 }, count).isNull());
+    EXPECT_FALSE(painted({ 300, 300 }, { 300, 300 }, count).isNull());
     EXPECT_EQ(calls.exchange(0), 1);
-    EXPECT_FALSE(paintedPicture({ 4000, 3000 }, { 4000, 3000 }, count).isNull());
+    EXPECT_FALSE(painted({ 4000, 3000 }, { 4000, 3000 }, count).isNull());
     EXPECT_EQ(calls, QThreadPool::globalInstance()->maxThreadCount());
 }
 
-TEST(PaintedPicture, OfNoPixelsIsNull)
+TEST(StartedPicture, OfNoPixelsIsNull)
 {
     for (const QSize size : { QSize(0, 0), QSize(0, 50), QSize(50, 0), QSize(-3, 5), QSize() }) {
-        EXPECT_TRUE(paintedPicture(size, { 1, 1 }, [](QPainter &) { ADD_FAILURE(); }).isNull());
+        EXPECT_TRUE(painted(size, { 1, 1 }, [](QPainter &) { ADD_FAILURE(); }).isNull());
     }
 }

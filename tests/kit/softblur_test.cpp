@@ -15,6 +15,11 @@ namespace {
 // Six passes, three along each axis, each round by up to half a level.
 constexpr int kRoundingLevels = 3;
 
+ShadowPatch shadowPatch(QSize size, int cornerRadius, int blurRadius, const QColor &color)
+{
+    return startShadowPatch(size, cornerRadius, blurRadius, color).get();
+}
+
 QImage blank(QSize size)
 {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);

@@ -43,15 +43,15 @@ void CameraBodyBackground::setDisplay(const QRectF &display)
         Q_EMIT displayChanged();
 }
 
-QImage CameraBodyBackground::picture()
+std::shared_future<QImage> CameraBodyBackground::startedPicture()
 {
-    return Housing::picture(Housing::Body{
+    return Housing::startedPicture(Housing::Body{
         .size = size().toSize(), .display = m_display, .colors = c(), .pixels = textureSize() });
 }
 
-QImage DisplayGlass::picture()
+std::shared_future<QImage> DisplayGlass::startedPicture()
 {
-    return Housing::picture(
+    return Housing::startedPicture(
         Housing::Glass{ .size = size().toSize(), .colors = c(), .pixels = textureSize() });
 }
 

@@ -41,7 +41,7 @@ Q_SIGNALS:
     void displayChanged();
 
 protected:
-    [[nodiscard]] QImage picture() override;
+    [[nodiscard]] std::shared_future<QImage> startedPicture() override;
 
 private:
     QRectF m_display;
@@ -57,7 +57,7 @@ public:
     using CameraSurface::CameraSurface;
 
 protected:
-    [[nodiscard]] QImage picture() override;
+    [[nodiscard]] std::shared_future<QImage> startedPicture() override;
 };
 
 /// The mode dial without its lettering: a knurled ring around a smooth disc. `turn` rotates the

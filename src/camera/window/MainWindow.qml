@@ -35,8 +35,9 @@ FocusScope {
         readonly property real topInset: 18
         readonly property real plateGap: 14
         readonly property real columnGap: 12
-        // The glass hides the body behind it; its round corners don't.
-        readonly property real displayCorner: 28
+        // The glass hides the body behind it; its round corners don't. They ease over 1.6 times
+        // their radius of 28.
+        readonly property real displayCorner: 45
     }
 
     SoftShadow {
@@ -45,6 +46,7 @@ FocusScope {
         anchors.bottomMargin: -12
         radius: 46
         blur: 16
+        hollow: true
         color: CNUI.gray(0, 0.65)
     }
     CameraBodyBackground {

@@ -3,6 +3,7 @@
 #include "kit/gradients.h"
 
 #include <QCache>
+#include <QMutex>
 #include <QPainter>
 
 #include <array>
@@ -42,19 +43,23 @@ void ContinuousRectangle::paint(QPainter *painter)
         });
 }
 
-QImage ContinuousRectangle::picture()
+std::shared_future<QImage> ContinuousRectangle::startedPicture()
 {
-    // Buttons of a rail and cards of a grid look alike, so most rectangles are there already.
-    static QCache<Look, QImage> pictures(kKeptPixels);
+    // Buttons of a rail and cards of a grid look alike, so most rectangles are there already, or
+    // are being painted.
+    static QMutex mutex; // Each window may have a thread that asks.
+    static QCache<Look, std::shared_future<QImage>> pictures(kKeptPixels);
 
     const Look look{
         .pixels = textureSize(),
         .measures = { width(), height(), m_radius, m_strokeWidth },
         .colors = { m_fillFrom, m_fillVia, m_fillTo, m_strokeFrom, m_strokeTo },
     };
-    if (const QImage *known = pictures.object(look))
+    const QMutexLocker lock(&mutex);
+    if (const std::shared_future<QImage> *known = pictures.object(look))
         return *known;
-    const QImage made = PaintedItem::picture();
-    pictures.insert(look, new QImage(made), look.pixels.width() * look.pixels.height());
-    return made;
+    const std::shared_future<QImage> started = PaintedItem::startedPicture();
+    pictures.insert(
+        look, new std::shared_future<QImage>(started), look.pixels.width() * look.pixels.height());
+    return started;
 }

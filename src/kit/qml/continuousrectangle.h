@@ -35,7 +35,7 @@ public:
     void paint(QPainter *painter) override;
 
 protected:
-    [[nodiscard]] QImage picture() override;
+    [[nodiscard]] std::shared_future<QImage> startedPicture() override;
 
 Q_SIGNALS:
     void lookChanged();

@@ -9,16 +9,15 @@
 #include <QSGRendererInterface>
 
 PaintedItem::PaintedItem(QQuickItem *parent)
-    : QQuickItem(parent)
+    : PreparedItem(parent)
 {
-    setFlag(ItemHasContents);
     setAntialiasing(true);
     Preferences::shared().follow(CNZoom::key, this, [this] { refit(); });
 }
 
 void PaintedItem::refit()
 {
-    update();
+    repaint();
     Q_EMIT textureSizeChanged();
 }
 
@@ -49,26 +48,35 @@ void PaintedItem::limitTexture(int longestSide)
 
 void PaintedItem::itemChange(ItemChange change, const ItemChangeData &data)
 {
-    QQuickItem::itemChange(change, data);
+    PreparedItem::itemChange(change, data);
     if (change == ItemDevicePixelRatioHasChanged || change == ItemSceneChange)
-        refit();
-    if (change == ItemVisibleHasChanged)
-        update();
+        Q_EMIT textureSizeChanged();
 }
 
 void PaintedItem::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
-    QQuickItem::geometryChange(newGeometry, oldGeometry);
+    PreparedItem::geometryChange(newGeometry, oldGeometry);
     if (newGeometry.size() != oldGeometry.size())
         refit();
 }
 
 void PaintedItem::paint(QPainter *) { }
 
-QImage PaintedItem::picture()
+std::shared_future<QImage> PaintedItem::startedPicture()
 {
-    return paintedPicture(
-        textureSize(), shownSize(), [this](QPainter &painter) { paint(&painter); });
+    return startPicture(textureSize(), shownSize(), [this](QPainter &painter) { paint(&painter); });
+}
+
+void PaintedItem::prepare()
+{
+    if (!shownSize().isEmpty())
+        m_picture = startedPicture();
+}
+
+void PaintedItem::settle()
+{
+    if (m_picture.valid())
+        std::exchange(m_picture, {}).wait();
 }
 
 QSGNode *PaintedItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
@@ -87,7 +95,9 @@ QSGNode *PaintedItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
             = window()->rendererInterface()->graphicsApi() == QSGRendererInterface::Software;
         node->setFiltering(software ? QSGTexture::Nearest : QSGTexture::Linear);
     }
-    const QImage image = picture();
+    if (!m_picture.valid())
+        m_picture = startedPicture();
+    const QImage image = std::exchange(m_picture, {}).get();
     node->setTexture(window()->createTextureFromImage(image));
     node->setSourceRect(image.rect());
     node->setRect(QRect(QPoint(), shownSize()));

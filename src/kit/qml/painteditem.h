@@ -1,10 +1,11 @@
 // The base of everything that is painted by hand.
 #pragma once
 
-#include <QImage>
-#include <QQuickItem>
-#include <QtQml/qqml.h>
+#include "prepareditem.h"
 
+#include <QImage>
+
+#include <future>
 #include <limits>
 
 /// An item whose picture has as many pixels as it covers on the screen: the interface zoom times
@@ -13,7 +14,7 @@
 ///
 /// Not a QQuickPaintedItem: on the software scene graph that one copies each new picture before it
 /// paints on it, and paints items that can't be seen: half the memory that a start touched.
-class PaintedItem : public QQuickItem
+class PaintedItem : public PreparedItem
 {
     Q_OBJECT
     QML_ANONYMOUS
@@ -24,7 +25,7 @@ public:
 
     [[nodiscard]] QSize textureSize() const;
 
-    /// Paints the item as paintedPicture() asks for it: edges are smoothed; while the main thread
+    /// Paints the item as startPicture() asks for it: edges are smoothed; while the main thread
     /// waits, several others may be here at once.
     virtual void paint(QPainter *painter);
 
@@ -32,6 +33,8 @@ Q_SIGNALS:
     void textureSizeChanged();
 
 protected:
+    void prepare() override;
+    void settle() override;
     QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *data) override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
@@ -43,9 +46,9 @@ protected:
     /// magnified. Unlimited by default.
     void limitTexture(int longestSide);
 
-    /// The item as paint() makes it. Subclasses answer otherwise if they know the picture already
-    /// or make it as a whole.
-    [[nodiscard]] virtual QImage picture();
+    /// Starts to paint the item by paint(). Subclasses answer otherwise if they know the picture
+    /// already or make it as a whole.
+    [[nodiscard]] virtual std::shared_future<QImage> startedPicture();
 
     /// Stores `value` in `field` and repaints if that changes anything; true if it did. The
     /// caller emits its own signal.
@@ -55,7 +58,7 @@ protected:
         if (field == value)
             return false;
         field = value;
-        update();
+        repaint();
         return true;
     }
 
@@ -63,5 +66,6 @@ private:
     void refit();
     [[nodiscard]] QSize shownSize() const;
 
+    std::shared_future<QImage> m_picture; ///< Until updatePaintNode() takes it.
     int m_longestSide = std::numeric_limits<int>::max();
 };

@@ -1,21 +1,26 @@
 #pragma once
 
+#include "prepareditem.h"
+
+#include "kit/softblur.h"
+
 #include <QColor>
-#include <QQuickItem>
-#include <QtQml/qqml.h>
+
+class QSGTexture;
 
 /// The soft shadow, or glow, of a rounded rectangle as large as this item.
 ///
 /// It spreads `blur` beyond the item on all sides and takes no clicks. Drawn as a nine-patch of a
 /// small picture that was blurred once, so it costs the same at any size and looks the same with
 /// and without a graphics processor.
-class SoftShadow : public QQuickItem
+class SoftShadow : public PreparedItem
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY lookChanged)
     Q_PROPERTY(qreal radius READ radius WRITE setRadius NOTIFY lookChanged)
     Q_PROPERTY(qreal blur READ blur WRITE setBlur NOTIFY lookChanged)
+    Q_PROPERTY(bool hollow READ hollow WRITE setHollow NOTIFY lookChanged)
 public:
     explicit SoftShadow(QQuickItem *parent = nullptr);
 
@@ -27,19 +32,30 @@ public:
     /// Reach of the blur, at least 0.
     [[nodiscard]] qreal blur() const { return m_blur; }
     void setBlur(qreal blur);
+    /// True where something opaque hides the shape but for its edge, as deep as the blur: no more
+    /// of a large shape is drawn then. To lay a shadow under a whole window takes milliseconds.
+    [[nodiscard]] bool hollow() const { return m_hollow; }
+    void setHollow(bool hollow);
 
 Q_SIGNALS:
     void lookChanged();
 
 protected:
+    void prepare() override;
+    void settle() override;
     QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *data) override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
-    void itemChange(ItemChange change, const ItemChangeData &data) override;
 
 private:
     void look();
+    [[nodiscard]] bool isSeen() const;
+    [[nodiscard]] double renderScale() const;
+    [[nodiscard]] std::shared_future<ShadowPatch> startedPatch() const;
+    [[nodiscard]] QSGNode *rim(const QRectF &reach, QSGTexture *texture, int border) const;
 
+    std::shared_future<ShadowPatch> m_patch; ///< Until updatePaintNode() takes it.
     QColor m_color = Qt::black;
     qreal m_radius = 0;
     qreal m_blur = 0;
+    bool m_hollow = false;
 };

@@ -1,5 +1,6 @@
 #include "textglow.h"
 
+#include "kit/picture.h"
 #include "kit/softblur.h"
 
 #include <QPainter>
@@ -35,7 +36,7 @@ void TextGlow::setBlur(qreal blur)
         Q_EMIT lookChanged();
 }
 
-QImage TextGlow::picture()
+std::shared_future<QImage> TextGlow::startedPicture()
 {
     // The item is the text's box with `blur` of margin, which softBlur() needs.
     QImage mask(textureSize(), QImage::Format_ARGB32_Premultiplied);
@@ -61,5 +62,6 @@ QImage TextGlow::picture()
         ink.setPen(Qt::black);
         layout.draw(&ink, { m_blur, m_blur });
     }
-    return softBlur(mask, m_blur * scale, m_color);
+    return startBesidePictures(
+        [mask, radius = m_blur * scale, color = m_color] { return softBlur(mask, radius, color); });
 }

@@ -35,7 +35,7 @@ Q_SIGNALS:
     void lookChanged();
 
 protected:
-    [[nodiscard]] QImage picture() override;
+    [[nodiscard]] std::shared_future<QImage> startedPicture() override;
 
 private:
     QString m_text;

@@ -11,7 +11,6 @@
 #include "shell/setup.h"
 #include "store/userstore.h"
 
-#include <QLibrary>
 #include <QQmlComponent>
 #include <QTextStream>
 
@@ -76,7 +75,7 @@ QStringList argumentList(int argc, char **argv)
 // Answers the engine until it has read all types. Once the typeface is known, the first screen's
 // fonts are opened in between, one at a time: no question waits long. Nothing of ours is in the
 // event loop yet.
-void letEngineRead(const QQmlComponent &component, const std::future<QFont> &typeface)
+void letEngineRead(const QQmlComponent &component, const std::shared_future<QFont> &typeface)
 {
     using namespace std::chrono_literals;
 
@@ -153,21 +152,15 @@ void HalvorinApp::start(int &argc, char **argv)
         [this](const QByteArray &token) { bringToFront(token); });
 
     // The engine reads the window's types in a thread of its own, which now and then waits for an
-    // answer of this one. What else takes long is done beside them, first of all the linking of the
-    // largest library that the types come with; the engine finds it by itself if this doesn't.
-    const std::future<bool> templates = std::async(
-        std::launch::async, [] { return QLibrary(u"Qt6QuickTemplates2"_s, 6).load(); });
-    std::future<QFont> typeface
+    // answer of this one. The typeface is found beside them, then the course is read: with more
+    // threads than that each would wait for a processor.
+    const std::shared_future<QFont> typeface
         = std::async(std::launch::async, [] { return Fonts::rounded(12.5); });
-    HVSetup::configure();
-    const auto prepare = [ratio = m_application->devicePixelRatio(), isUsual = CNZoom::value() == 1,
-                             colors = HVColors()] {
+    const std::future<void> course = std::async(std::launch::async, [typeface] {
+        typeface.wait();
         HVSetup::prepareCourse();
-        if (isUsual)
-            Housing::paintAhead(
-                HVSetup::firstBody(ratio, colors), HVSetup::firstGlass(ratio, colors));
-    };
-    std::future<void> preparation = std::async(std::launch::async, prepare);
+    });
+    HVSetup::configure();
     m_engine = std::make_unique<QQmlEngine>();
     m_engine->addImportPath(u":/qt/qml"_s);
     QObject::connect(m_engine.get(), &QQmlEngine::quit, m_application.get(),
@@ -177,11 +170,18 @@ void HalvorinApp::start(int &argc, char **argv)
     SceneGraph::choose();
     letEngineRead(component, typeface);
     QGuiApplication::setFont(typeface.get());
-    preparation.get();
 
     // Only now: that loop would swallow the request, and until here there is nothing to bring home.
     quitOnTerminationSignals();
     HVSetup::openStore();
+    course.wait();
+
+    // All but this thread would be idle from here on.
+    if (CNZoom::value() == 1) {
+        const double ratio = m_application->devicePixelRatio();
+        Housing::startAhead(
+            HVSetup::firstBody(ratio, HVColors()), HVSetup::firstGlass(ratio, HVColors()));
+    }
 
     m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
     if (!m_window)
