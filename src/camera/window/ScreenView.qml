@@ -15,7 +15,7 @@ FocusScope {
         anchors.fill: parent
         focus: true
         // A screen made before the window has its size would lay out every text twice.
-        active: root.width > 0
+        active: root.width > 0 && root.height > 0
         sourceComponent: {
             switch (AppModel.screen) {
             case HVScreen.Home: return home;

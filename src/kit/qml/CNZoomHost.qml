@@ -12,7 +12,9 @@ Item {
     QtObject {
         id: metrics
         readonly property size offered: Qt.size(root.width, root.height)
-        readonly property size logical: CNZoom.logicalSize(metrics.offered, CNZoom.zoom, root.minSize)
+        // Nothing while nothing is offered, or all would be laid out in its smallest size first.
+        readonly property size logical: metrics.offered.width > 0 && metrics.offered.height > 0
+            ? CNZoom.logicalSize(metrics.offered, CNZoom.zoom, root.minSize) : Qt.size(0, 0)
         readonly property bool scrolls: CNZoom.scrolls(metrics.offered, CNZoom.zoom, root.minSize)
         readonly property real zoom: CNZoom.zoom
         onOfferedChanged: CNZoom.scrollHome(surface)
