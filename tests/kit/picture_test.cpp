@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <chrono>
+#include <future>
 
 namespace {
 
@@ -59,6 +61,27 @@ TEST(StartedPicture, TakesEveryThreadForALargePictureAlone)
     EXPECT_EQ(calls.exchange(0), 1);
     EXPECT_FALSE(painted({ 4000, 3000 }, { 4000, 3000 }, count).isNull());
     EXPECT_EQ(calls, QThreadPool::globalInstance()->maxThreadCount());
+}
+
+TEST(StartedPicture, IsReadyLaterThanItIsAskedFor)
+{
+    std::promise<void> mayPaint;
+    const std::shared_future<QImage> picture
+        = startPicture({ 50, 50 }, { 50, 50 }, [&mayPaint](QPainter &painter) {
+              mayPaint.get_future().wait();
+              paintTarget(painter);
+          });
+    EXPECT_EQ(picture.wait_for(std::chrono::seconds(0)), std::future_status::timeout);
+    mayPaint.set_value();
+    EXPECT_EQ(picture.get(), paintedPlainly({ 50, 50 }, { 50, 50 }));
+}
+
+TEST(StartedPicture, StandsBesideWhatIsMadeByOtherMeans)
+{
+    const std::shared_future<int> answer = startBesidePictures([] { return 42; });
+    const std::shared_future<QImage> picture = startPicture({ 50, 50 }, { 50, 50 }, paintTarget);
+    EXPECT_EQ(answer.get(), 42);
+    EXPECT_FALSE(picture.get().isNull());
 }
 
 TEST(StartedPicture, OfNoPixelsIsNull)
