@@ -12,7 +12,7 @@
 /// Pressable.
 ///
 /// In C++ because there are dozens on a screen: a handler, a key filter and two places for what
-/// is hardly ever there, as objects of QML's, made up a quarter of what a start creates.
+/// is hardly ever there, as objects of QML's, made up a fifth of what a start creates.
 class ButtonBehavior : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
