@@ -8,6 +8,8 @@
 #include <QSGImageNode>
 #include <QSGRendererInterface>
 
+#include <utility>
+
 PaintedItem::PaintedItem(QQuickItem *parent)
     : PreparedItem(parent)
 {
@@ -19,11 +21,6 @@ void PaintedItem::refit()
 {
     repaint();
     Q_EMIT textureSizeChanged();
-}
-
-double PaintedItem::renderScale() const
-{
-    return CNZoom::value() * (window() ? window()->effectiveDevicePixelRatio() : 1);
 }
 
 QSize PaintedItem::textureSize() const

@@ -39,9 +39,6 @@ protected:
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
 
-    /// Device pixels per logical unit.
-    [[nodiscard]] double renderScale() const;
-
     /// Keeps either side of the texture within so many pixels; a larger item is painted coarser and
     /// magnified. Unlimited by default.
     void limitTexture(int longestSide);

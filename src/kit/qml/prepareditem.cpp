@@ -1,6 +1,10 @@
 #include "prepareditem.h"
 
+#include "kit/zoom.h"
+
 #include <QQuickWindow>
+
+#include <utility>
 
 Preparation *Preparation::of(QQuickWindow *window)
 {
@@ -44,6 +48,11 @@ PreparedItem::PreparedItem(QQuickItem *parent)
 PreparedItem::~PreparedItem()
 {
     withdraw();
+}
+
+double PreparedItem::renderScale() const
+{
+    return CNZoom::value() * (window() ? window()->effectiveDevicePixelRatio() : 1);
 }
 
 void PreparedItem::repaint()

@@ -40,6 +40,9 @@ public:
     ~PreparedItem() override;
 
 protected:
+    /// Device pixels per logical unit.
+    [[nodiscard]] double renderScale() const;
+
     /// In place of update(): the item is prepared first.
     void repaint();
 

@@ -8,6 +8,7 @@
 #include <QSGNinePatchNode>
 
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -96,14 +97,9 @@ bool SoftShadow::isSeen() const
     return isVisible() && !size().isEmpty() && m_color.alpha() != 0;
 }
 
-// Blurred in the pixels of the screen, so that a magnified shadow stays smooth.
-double SoftShadow::renderScale() const
-{
-    return CNZoom::value() * window()->effectiveDevicePixelRatio();
-}
-
 std::shared_future<ShadowPatch> SoftShadow::startedPatch() const
 {
+    // Blurred in the pixels of the screen, so that a magnified shadow stays smooth.
     const double scale = renderScale();
     const double radius = qMin(m_radius, qMin(width(), height()) / 2);
     return startShadowPatch(

@@ -33,7 +33,8 @@ public:
     [[nodiscard]] qreal blur() const { return m_blur; }
     void setBlur(qreal blur);
     /// True where something opaque hides the shape but for its edge, as deep as the blur: no more
-    /// of a large shape is drawn then. To lay a shadow under a whole window takes milliseconds.
+    /// of a large shape is drawn then. A whole window's shadow takes more than a millisecond to
+    /// draw.
     [[nodiscard]] bool hollow() const { return m_hollow; }
     void setHollow(bool hollow);
 
@@ -49,7 +50,6 @@ protected:
 private:
     void look();
     [[nodiscard]] bool isSeen() const;
-    [[nodiscard]] double renderScale() const;
     [[nodiscard]] std::shared_future<ShadowPatch> startedPatch() const;
     [[nodiscard]] QSGNode *rim(const QRectF &reach, QSGTexture *texture, int border) const;
 
