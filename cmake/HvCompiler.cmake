@@ -29,23 +29,3 @@ else()
     endif()
 endif()
 target_link_libraries(hv_strict INTERFACE hv_warnings)
-
-# The program alone is worth optimising as a whole. Objects keep their ordinary code beside the
-# intermediate one, so that the many test programs link at once (see hv_plain_link).
-if(CMAKE_INTERPROCEDURAL_OPTIMIZATION AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    add_compile_options(-ffat-lto-objects)
-    # g++ 12 warns of a growth of QHash beyond memory that it derives while linking.
-    add_link_options(-Wno-alloc-size-larger-than)
-endif()
-
-function(hv_plain_link target)
-    set_target_properties(${target} PROPERTIES INTERPROCEDURAL_OPTIMIZATION OFF)
-    if(CMAKE_INTERPROCEDURAL_OPTIMIZATION AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-        target_link_options(${target} PRIVATE -fno-lto)
-    endif()
-endfunction()
-
-if(HV_SANITIZE)
-    add_compile_options(-fsanitize=${HV_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
-    add_link_options(-fsanitize=${HV_SANITIZE})
-endif()
