@@ -2,7 +2,7 @@
 
 #include "content/text.h"
 #include "diagrams/diagramkind.h"
-#include "screens/hvvideo.h"
+#include "screens/videos/hvvideo.h"
 
 #include <QSet>
 

@@ -16,83 +16,9 @@ AppModel::AppModel(QObject *parent)
     : QObject(parent)
 { }
 
-template <typename T>
-void AppModel::set(T &field, const T &value, void (AppModel::*changed)())
-{
-    if (field == value)
-        return;
-    field = value;
-    Q_EMIT(this->*changed)();
-}
-
-void AppModel::setScreen(Screen screen)
-{
-    set(m_screen, screen, &AppModel::screenChanged);
-}
-
-void AppModel::setModuleID(const OptionalText &id)
-{
-    set(m_moduleID, id, &AppModel::moduleIDChanged);
-}
-
-void AppModel::setLessonID(const OptionalText &id)
-{
-    set(m_lessonID, id, &AppModel::lessonIDChanged);
-}
-
-void AppModel::setQuizModuleID(const OptionalText &id)
-{
-    set(m_quizModuleID, id, &AppModel::quizModuleIDChanged);
-}
-
-void AppModel::setGearID(const OptionalText &id)
-{
-    set(m_gearID, id, &AppModel::gearIDChanged);
-}
-
-void AppModel::setEventID(const OptionalText &id)
-{
-    set(m_eventID, id, &AppModel::eventIDChanged);
-}
-
-void AppModel::setVideoID(const OptionalText &id)
-{
-    set(m_videoID, id, &AppModel::videoIDChanged);
-}
-
-void AppModel::setSoftwareID(const OptionalText &id)
-{
-    set(m_softwareID, id, &AppModel::softwareIDChanged);
-}
-
-void AppModel::setGearQuery(const QString &query)
-{
-    set(m_gearQuery, query, &AppModel::gearQueryChanged);
-}
-
-void AppModel::setGlobalQuery(const QString &query)
-{
-    set(m_globalQuery, query, &AppModel::globalQueryChanged);
-}
-
 bool AppModel::showsResults() const
 {
     return !Text::trimmedBlanks(m_globalQuery).isEmpty();
-}
-
-void AppModel::setNoteDraft(const std::optional<Note> &note)
-{
-    set(m_noteDraft, note, &AppModel::noteDraftChanged);
-}
-
-void AppModel::setMessage(const OptionalText &message)
-{
-    set(m_message, message, &AppModel::messageChanged);
-}
-
-void AppModel::setSim(const SimSettings &settings)
-{
-    set(m_sim, settings, &AppModel::simChanged);
 }
 
 void AppModel::openLesson(const QString &id)

@@ -27,6 +27,7 @@ class AppModel : public QObject
     Q_PROPERTY(QString screenTitle READ screenTitle NOTIFY screenChanged)
     Q_PROPERTY(QString screenShortTitle READ screenShortTitle NOTIFY screenChanged)
     Q_PROPERTY(QString screenSymbol READ screenSymbol NOTIFY screenChanged)
+    Q_PROPERTY(QString screenComponent READ screenComponent NOTIFY screenChanged)
     Q_PROPERTY(QString gearQuery READ gearQuery WRITE setGearQuery NOTIFY gearQueryChanged)
     Q_PROPERTY(QString globalQuery READ globalQuery WRITE setGlobalQuery NOTIFY globalQueryChanged)
     Q_PROPERTY(bool showsResults READ showsResults NOTIFY globalQueryChanged)
@@ -41,53 +42,71 @@ public:
     explicit AppModel(QObject *parent = nullptr);
 
     [[nodiscard]] Screen screen() const { return m_screen; }
-    void setScreen(Screen screen);
+    void setScreen(Screen screen) { set(m_screen, screen, &AppModel::screenChanged); }
     [[nodiscard]] QString screenTitle() const { return screenInfo(m_screen).title; }
     [[nodiscard]] QString screenShortTitle() const { return screenInfo(m_screen).shortTitle; }
-
     [[nodiscard]] QString screenSymbol() const { return screenInfo(m_screen).symbol; }
+    [[nodiscard]] QString screenComponent() const { return screenInfo(m_screen).component; }
 
     /// The open module, lesson and quiz of the course screen; a quiz wins over a lesson.
     [[nodiscard]] const OptionalText &moduleID() const { return m_moduleID; }
-    void setModuleID(const OptionalText &id);
+    void setModuleID(const OptionalText &id) { set(m_moduleID, id, &AppModel::moduleIDChanged); }
     [[nodiscard]] const OptionalText &lessonID() const { return m_lessonID; }
-    void setLessonID(const OptionalText &id);
+    void setLessonID(const OptionalText &id) { set(m_lessonID, id, &AppModel::lessonIDChanged); }
     [[nodiscard]] const OptionalText &quizModuleID() const { return m_quizModuleID; }
-    void setQuizModuleID(const OptionalText &id);
+    void setQuizModuleID(const OptionalText &id)
+    {
+        set(m_quizModuleID, id, &AppModel::quizModuleIDChanged);
+    }
 
     [[nodiscard]] const OptionalText &gearID() const { return m_gearID; }
-    void setGearID(const OptionalText &id);
+    void setGearID(const OptionalText &id) { set(m_gearID, id, &AppModel::gearIDChanged); }
     [[nodiscard]] const OptionalText &eventID() const { return m_eventID; }
-    void setEventID(const OptionalText &id);
+    void setEventID(const OptionalText &id) { set(m_eventID, id, &AppModel::eventIDChanged); }
     [[nodiscard]] const OptionalText &videoID() const { return m_videoID; }
-    void setVideoID(const OptionalText &id);
+    void setVideoID(const OptionalText &id) { set(m_videoID, id, &AppModel::videoIDChanged); }
     [[nodiscard]] const OptionalText &softwareID() const { return m_softwareID; }
-    void setSoftwareID(const OptionalText &id);
+    void setSoftwareID(const OptionalText &id)
+    {
+        set(m_softwareID, id, &AppModel::softwareIDChanged);
+    }
 
     /// The encyclopedia's filter.
     [[nodiscard]] const QString &gearQuery() const { return m_gearQuery; }
-    void setGearQuery(const QString &query);
+    void setGearQuery(const QString &query)
+    {
+        set(m_gearQuery, query, &AppModel::gearQueryChanged);
+    }
 
     /// The search over everything; while it holds more than white space its results cover the
     /// screen.
     [[nodiscard]] const QString &globalQuery() const { return m_globalQuery; }
-    void setGlobalQuery(const QString &query);
+    void setGlobalQuery(const QString &query)
+    {
+        set(m_globalQuery, query, &AppModel::globalQueryChanged);
+    }
     [[nodiscard]] bool showsResults() const;
 
     /// The note being written; while there is one, the editor is open.
     [[nodiscard]] const std::optional<Note> &noteDraft() const { return m_noteDraft; }
-    void setNoteDraft(const std::optional<Note> &note);
+    void setNoteDraft(const std::optional<Note> &note)
+    {
+        set(m_noteDraft, note, &AppModel::noteDraftChanged);
+    }
     [[nodiscard]] bool editsNote() const { return m_noteDraft.has_value(); }
 
     /// The one message to the user, shown until it is dismissed. A later one replaces an earlier.
     [[nodiscard]] const OptionalText &message() const { return m_message; }
-    void setMessage(const OptionalText &message);
+    void setMessage(const OptionalText &message)
+    {
+        set(m_message, message, &AppModel::messageChanged);
+    }
     [[nodiscard]] bool hasMessage() const { return m_message.has_value(); }
     [[nodiscard]] QString messageText() const { return m_message.value_or(QString()); }
 
     /// The Exposure Lab's settings.
     [[nodiscard]] const SimSettings &sim() const { return m_sim; }
-    void setSim(const SimSettings &settings);
+    void setSim(const SimSettings &settings) { set(m_sim, settings, &AppModel::simChanged); }
 
     /// Goes to a lesson. An id that names none changes nothing at all.
     Q_INVOKABLE void openLesson(const QString &id);
@@ -146,7 +165,13 @@ Q_SIGNALS:
 
 private:
     template <typename T>
-    void set(T &field, const T &value, void (AppModel::*changed)());
+    void set(T &field, const T &value, void (AppModel::*changed)())
+    {
+        if (field == value)
+            return;
+        field = value;
+        Q_EMIT(this->*changed)();
+    }
 
     Screen m_screen = Screen::Home;
     OptionalText m_moduleID;

@@ -7,16 +7,60 @@ using namespace Qt::StringLiterals;
 const QList<ScreenInfo> &allScreens()
 {
     static const QList<ScreenInfo> screens = {
-        { Screen::Home, u"home"_s, u"Campus"_s, u"HOME"_s, u"building.columns"_s },
-        { Screen::Course, u"course"_s, u"Course"_s, u"LEARN"_s, u"graduationcap"_s },
-        { Screen::Exposure, u"exposure"_s, u"Exposure Lab"_s, u"EXPO"_s, u"camera.aperture"_s },
-        { Screen::Lens, u"lens"_s, u"Lens Lab"_s, u"LENS"_s, u"circle.circle"_s },
-        { Screen::History, u"history"_s, u"History"_s, u"HIST"_s, u"clock.arrow.circlepath"_s },
-        { Screen::Gear, u"gear"_s, u"Gear Encyclopedia"_s, u"GEAR"_s, u"books.vertical"_s },
-        { Screen::Workflow, u"workflow"_s, u"Workflows & Software"_s, u"FLOW"_s,
-            u"arrow.triangle.branch"_s },
-        { Screen::Videos, u"videos"_s, u"Video Library"_s, u"VIDEO"_s, u"play.rectangle"_s },
-        { Screen::Notes, u"notes"_s, u"My Notes & Progress"_s, u"NOTES"_s, u"note.text"_s },
+        { .screen = Screen::Home,
+            .rawValue = u"home"_s,
+            .title = u"Campus"_s,
+            .shortTitle = u"HOME"_s,
+            .symbol = u"building.columns"_s,
+            .component = u"Halvorin.Screens.HomeView"_s },
+        { .screen = Screen::Course,
+            .rawValue = u"course"_s,
+            .title = u"Course"_s,
+            .shortTitle = u"LEARN"_s,
+            .symbol = u"graduationcap"_s,
+            .component = u"Halvorin.Screens.CourseView"_s },
+        { .screen = Screen::Exposure,
+            .rawValue = u"exposure"_s,
+            .title = u"Exposure Lab"_s,
+            .shortTitle = u"EXPO"_s,
+            .symbol = u"camera.aperture"_s,
+            .component = u"Halvorin.Simulator.ExposureLabView"_s },
+        { .screen = Screen::Lens,
+            .rawValue = u"lens"_s,
+            .title = u"Lens Lab"_s,
+            .shortTitle = u"LENS"_s,
+            .symbol = u"circle.circle"_s,
+            .component = u"Halvorin.Simulator.LensLabView"_s },
+        { .screen = Screen::History,
+            .rawValue = u"history"_s,
+            .title = u"History"_s,
+            .shortTitle = u"HIST"_s,
+            .symbol = u"clock.arrow.circlepath"_s,
+            .component = u"Halvorin.Screens.HistoryView"_s },
+        { .screen = Screen::Gear,
+            .rawValue = u"gear"_s,
+            .title = u"Gear Encyclopedia"_s,
+            .shortTitle = u"GEAR"_s,
+            .symbol = u"books.vertical"_s,
+            .component = u"Halvorin.Screens.GearView"_s },
+        { .screen = Screen::Workflow,
+            .rawValue = u"workflow"_s,
+            .title = u"Workflows & Software"_s,
+            .shortTitle = u"FLOW"_s,
+            .symbol = u"arrow.triangle.branch"_s,
+            .component = u"Halvorin.Screens.WorkflowView"_s },
+        { .screen = Screen::Videos,
+            .rawValue = u"videos"_s,
+            .title = u"Video Library"_s,
+            .shortTitle = u"VIDEO"_s,
+            .symbol = u"play.rectangle"_s,
+            .component = u"Halvorin.Screens.VideoLibraryView"_s },
+        { .screen = Screen::Notes,
+            .rawValue = u"notes"_s,
+            .title = u"My Notes & Progress"_s,
+            .shortTitle = u"NOTES"_s,
+            .symbol = u"note.text"_s,
+            .component = u"Halvorin.Screens.NotesView"_s },
     };
     return screens;
 }
@@ -37,5 +81,6 @@ std::optional<Screen> screenNamed(QStringView rawValue)
 Screen screenAfter(Screen screen, int delta)
 {
     const int count = int(allScreens().size());
-    return allScreens().at((int(screen) + delta + count) % count).screen;
+    const int place = (int(screen) + delta) % count;
+    return allScreens().at(place < 0 ? place + count : place).screen;
 }

@@ -1,4 +1,5 @@
-// The nine main screens, in the order in which dial, rail and menu go through them.
+// The main screens, in the order in which dial, rail and menu go through them. Whatever depends on
+// which screens there are reads this table.
 #pragma once
 
 #include <QList>
@@ -16,13 +17,14 @@ Q_ENUM_NS(Screen)
 } // namespace HVScreen
 using HVScreen::Screen;
 
-/// How a screen is called in its different places.
+/// How a screen is called in its different places, and what shows it.
 struct ScreenInfo {
     Screen screen;
     QString rawValue; ///< Its id.
     QString title;
     QString shortTitle; ///< Engraved on the dial.
     QString symbol;
+    QString component; ///< The QML type that the display shows, with its module.
 };
 
 /// All screens in their order; never empty.
@@ -33,6 +35,5 @@ struct ScreenInfo {
 /// The screen with exactly this raw value.
 [[nodiscard]] std::optional<Screen> screenNamed(QStringView rawValue);
 
-/// The screen `delta` places further along the dial, which turns round at both ends. `delta` is
-/// at least −9.
+/// The screen `delta` places further along the dial, which turns round at both ends.
 [[nodiscard]] Screen screenAfter(Screen screen, int delta);

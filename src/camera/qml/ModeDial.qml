@@ -11,6 +11,9 @@ Row {
 
     spacing: 6
 
+    ScreenList {
+        id: screens
+    }
     DialArrow {
         anchors.verticalCenter: parent.verticalCenter
         c: root.c
@@ -41,8 +44,8 @@ Row {
                 anchors.fill: parent
                 c: root.c
                 lit: dial.hovered
-                // One ninth of a turn for each screen, the short way round.
-                turn: AppModel.screen * 40
+                // A whole turn goes through all screens; from one to another the short way round.
+                turn: AppModel.screen * 360 / screens.count
                 Behavior on turn {
                     enabled: CNUI.animated
                     RotationAnimation {

@@ -3,7 +3,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Halvorin.Kit
 import Halvorin.Camera
-import Halvorin.Screens
 import Halvorin.Shell
 import Halvorin.Window
 
@@ -20,10 +19,13 @@ FocusScope {
 
     /*! Reads what else may be shown, so that nobody waits for it at the first visit. */
     function readAhead(): void {
-        for (const screen of ["CourseView", "GlobalResults"])
-            ahead.components.push(Qt.createComponent(`../Screens/${screen}.qml`, Component.Asynchronous));
+        for (const component of [...screens.components, results.component])
+            ahead.components.push(Qt.createComponent(results.fileOf(component), Component.Asynchronous));
     }
 
+    ScreenList {
+        id: screens
+    }
     QtObject {
         id: ahead
         property list<Component> components // What nothing holds may be forgotten.
@@ -94,11 +96,12 @@ FocusScope {
                 c: root.c
             }
             // The search's results come and go, the screen under them stays.
-            Late {
+            DisplayLoader {
+                id: results
                 anchors.fill: parent
                 active: AppModel.showsResults
                 c: root.c
-                file: "../Screens/GlobalResults.qml"
+                component: "Halvorin.Screens.GlobalResults"
             }
         }
         StrapSide {

@@ -4,9 +4,22 @@
 
 using namespace Qt::StringLiterals;
 
+int ScreenList::count() const
+{
+    return int(allScreens().size());
+}
+
+QStringList ScreenList::components() const
+{
+    QStringList result;
+    for (const ScreenInfo &info : allScreens())
+        result.append(info.component);
+    return result;
+}
+
 int ScreenList::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : int(allScreens().size());
+    return parent.isValid() ? 0 : count();
 }
 
 QVariant ScreenList::data(const QModelIndex &index, int role) const
@@ -22,7 +35,7 @@ QVariant ScreenList::data(const QModelIndex &index, int role) const
     case SymbolRole:
         return info.symbol;
     case ShortcutRole:
-        return u"Ctrl+%1"_s.arg(index.row() + 1);
+        return index.row() < 9 ? u"Ctrl+%1"_s.arg(index.row() + 1) : QString();
     default:
         return {};
     }

@@ -1,0 +1,5 @@
+import Halvorin.Camera
+
+/*! The gear encyclopedia. */
+UnbuiltScreen {
+}

@@ -1,0 +1,5 @@
+import Halvorin.Camera
+
+/*! The user's notes and progress. */
+UnbuiltScreen {
+}

@@ -1,0 +1,234 @@
+#include "screens/reading/private/richtextflow.h"
+
+#include "camera/hvcolors.h"
+#include "kit/fonts.h"
+#include "screens/reading/private/richtextblocks.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QFontMetricsF>
+#include <QScopedValueRollback>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextFrame>
+#include <QTextLayout>
+
+namespace {
+
+using RichTextMarkup::Block;
+using RichTextMarkup::Form;
+
+// All in points.
+constexpr double kBlockGap = 9;
+constexpr double kHeadingExtraGap = 6;
+constexpr double kParagraphLineSpacing = 3;
+constexpr double kDot = 5;
+constexpr double kDotLift = 2;
+constexpr double kDotGap = 8;
+constexpr double kPlatePadding = 10;
+constexpr double kBar = 3;
+constexpr double kBarGap = 10;
+
+QTextCharFormat charFormat(Form form, double size, const QColor &glow)
+{
+    QTextCharFormat format;
+    format.setForeground(form == Form::Heading ? glow : HVColors::oledTextRGB.color());
+    switch (form) {
+    case Form::Heading:
+        format.setFont(Fonts::rounded(size + 2.5, QFont::ExtraBold));
+        break;
+    case Form::Callout:
+        format.setFont(Fonts::rounded(size - 0.5, QFont::Medium));
+        break;
+    case Form::Bullet:
+    case Form::Paragraph:
+        format.setFont(Fonts::rounded(size));
+        break;
+    }
+    return format;
+}
+
+// The space between a block and the one above it, if there is one. All of it is the lower block's
+// top margin, because the layout would merge margins that meet.
+double gapAbove(Form form, const std::optional<Form> &before)
+{
+    double gap = before ? kBlockGap : 0;
+    if (before == Form::Callout)
+        gap += kPlatePadding;
+    // The line spacing also follows a paragraph's last line, where it belongs to the gap.
+    if (before == Form::Paragraph)
+        gap -= kParagraphLineSpacing;
+    if (form == Form::Heading)
+        gap += kHeadingExtraGap;
+    if (form == Form::Callout)
+        gap += kPlatePadding;
+    return gap;
+}
+
+QTextBlockFormat blockFormat(Form form, const std::optional<Form> &before)
+{
+    QTextBlockFormat format;
+    switch (form) {
+    case Form::Heading:
+        break;
+    case Form::Bullet:
+        format.setLeftMargin(kDot + kDotGap);
+        break;
+    case Form::Callout:
+        format.setLeftMargin(kPlatePadding + kBar + kBarGap);
+        format.setRightMargin(kPlatePadding);
+        break;
+    case Form::Paragraph:
+        format.setLineHeight(kParagraphLineSpacing, QTextBlockFormat::LineDistanceHeight);
+        break;
+    }
+    if (before)
+        format.setTopMargin(gapAbove(form, before));
+    return format;
+}
+
+// The layout passes over the margins above the first block and below the last one; the document's
+// own margins stand in for them.
+QTextFrameFormat pageFormat(QTextFrameFormat format, const QList<Block> &blocks)
+{
+    double above = 0;
+    double below = 0;
+    if (!blocks.isEmpty()) {
+        above = gapAbove(blocks.first().form, std::nullopt);
+        if (blocks.last().form == Form::Callout)
+            below = kPlatePadding;
+        // Nothing follows that the spacing of its last line would belong to.
+        if (blocks.last().form == Form::Paragraph)
+            below = -kParagraphLineSpacing;
+    }
+    format.setTopMargin(above);
+    format.setBottomMargin(below);
+    return format;
+}
+
+// Inserting one of these would split the block in two; a line separator looks the same. The last
+// two are noncharacters by which documents mark their frames.
+QString oneBlock(QString text)
+{
+    for (const QChar divider : { QChar(QChar::CarriageReturn), QChar(QChar::ParagraphSeparator),
+             QChar(0xFDD0), QChar(0xFDD1) })
+        text.replace(divider, QChar::LineSeparator);
+    return text;
+}
+
+} // namespace
+
+void RichTextFlow::setDocument(QQuickTextDocument *document)
+{
+    if (m_document == document)
+        return;
+    m_document = document;
+    if (document) {
+        QAbstractTextDocumentLayout *layout = document->textDocument()->documentLayout();
+        connect(layout, &QAbstractTextDocumentLayout::update, this, &RichTextFlow::placeOrnaments);
+        connect(layout, &QAbstractTextDocumentLayout::documentSizeChanged, this,
+            &RichTextFlow::placeOrnaments);
+    }
+    Q_EMIT documentChanged();
+    fill();
+}
+
+void RichTextFlow::setText(const QString &text)
+{
+    if (m_text == text)
+        return;
+    m_text = text;
+    Q_EMIT textChanged();
+    fill();
+}
+
+void RichTextFlow::setGlow(const QColor &glow)
+{
+    if (m_glow == glow)
+        return;
+    m_glow = glow;
+    Q_EMIT glowChanged();
+    fill();
+}
+
+void RichTextFlow::setSize(qreal size)
+{
+    if (m_size == size)
+        return;
+    m_size = size;
+    Q_EMIT sizeChanged();
+    fill();
+}
+
+void RichTextFlow::fill()
+{
+    if (!m_document)
+        return;
+    {
+        const QScopedValueRollback filling(m_filling, true);
+        QTextDocument *document = m_document->textDocument();
+        document->setUndoRedoEnabled(false);
+        QTextCursor cursor(document);
+        cursor.beginEditBlock();
+        cursor.select(QTextCursor::Document);
+        cursor.removeSelectedText();
+        const QList<Block> blocks = RichTextMarkup::blocks(m_text);
+        std::optional<Form> before;
+        for (const Block &block : blocks) {
+            const QTextBlockFormat shape = blockFormat(block.form, before);
+            const QTextCharFormat letters = charFormat(block.form, m_size, m_glow);
+            if (before)
+                cursor.insertBlock(shape, letters);
+            else
+                cursor.setBlockFormat(shape);
+            cursor.insertText(oneBlock(block.text), letters);
+            cursor.block().setUserState(int(block.form));
+            before = block.form;
+        }
+        QTextFrame *page = document->rootFrame();
+        page->setFrameFormat(pageFormat(page->frameFormat(), blocks));
+        cursor.endEditBlock();
+    }
+    placeOrnaments();
+}
+
+void RichTextFlow::placeOrnaments()
+{
+    // While the text is being filled in, every step reports a new layout.
+    if (m_filling || !m_document)
+        return;
+
+    QVariantList dots;
+    QVariantList plates;
+    const QTextDocument *document = m_document->textDocument();
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        const QTextLayout *layout = block.layout();
+        if (!layout || layout->lineCount() == 0)
+            continue;
+        // blockBoundingRect() begins at the block's margin; lines count from the layout's place.
+        const double top = layout->position().y();
+        switch (Form(block.userState())) {
+        case Form::Bullet: {
+            const QTextLine line = layout->lineAt(0);
+            const double baseline = top + line.y() + line.ascent();
+            dots.append(QRectF(0, baseline - kDotLift - kDot, kDot, kDot));
+            break;
+        }
+        case Form::Callout: {
+            const QTextLine lastLine = layout->lineAt(layout->lineCount() - 1);
+            const double height = lastLine.y() + lastLine.height();
+            plates.append(
+                QRectF(0, top - kPlatePadding, document->textWidth(), height + 2 * kPlatePadding));
+            break;
+        }
+        case Form::Heading:
+        case Form::Paragraph:
+            break;
+        }
+    }
+    if (m_dots == dots && m_plates == plates)
+        return;
+    m_dots = dots;
+    m_plates = plates;
+    Q_EMIT ornamentsChanged();
+}

@@ -1,0 +1,5 @@
+import Halvorin.Camera
+
+/*! Workflows and software. */
+UnbuiltScreen {
+}

@@ -1,0 +1,5 @@
+import Halvorin.Camera
+
+/*! The Lens Lab. */
+UnbuiltScreen {
+}
