@@ -29,3 +29,10 @@ else()
     endif()
 endif()
 target_link_libraries(hv_strict INTERFACE hv_warnings)
+
+if(HV_SANITIZE)
+    add_compile_options(-fsanitize=${HV_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${HV_SANITIZE})
+    # The longest comparisons of the tests then take a sample.
+    add_compile_definitions(HV_SANITIZED)
+endif()

@@ -1,23 +1,33 @@
 # The five kinds of target in this project. A folder's CMakeLists.txt calls these and nothing else.
 
-# hv_add_library(<name> SOURCES … LINK …)
-# A plain C++ library: Qt Core, at most Qt Gui, no QML header. What it links is public, so that a
-# target never needs to name what its headers show.
+# hv_precompile(<target> <kind>)
+# Reads Qt's headers from what was parsed once for all targets of the kind: "plain" libraries,
+# "quick" modules or "test" programs. It saves time and nothing else: sources include what they use,
+# and a build with CMAKE_DISABLE_PRECOMPILE_HEADERS shows that they do.
+function(hv_precompile target kind)
+    if(NOT MSVC) # whose precompiled headers hold the flags of one target
+        target_precompile_headers(${target} REUSE_FROM hv_${kind}_headers)
+    endif()
+endfunction()
+
+# hv_add_library(<name> SOURCES … PUBLIC … PRIVATE …)
+# A plain C++ library: Qt Core, at most Qt Gui, no QML header. PUBLIC is what its headers show.
 function(hv_add_library name)
-    cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(arg "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
     add_library(${name} STATIC ${arg_SOURCES})
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
     target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
-    target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE hv_strict)
+    target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE} hv_strict)
+    hv_precompile(${name} plain)
     # QML modules name types of plain libraries; they read them from this description.
     qt_extract_metatypes(${name})
 endfunction()
 
-# hv_add_qml_module(<folder> URI … SOURCES … QML_FILES … LINK … BASED_ON …)
+# hv_add_qml_module(<folder> URI … SOURCES … QML_FILES … PUBLIC … PRIVATE … BASED_ON …)
 # The folder's QML module, target hv_<folder>_qml. BASED_ON names modules whose types its C++ types
 # derive from.
 function(hv_add_qml_module folder)
-    cmake_parse_arguments(arg "" "URI" "SOURCES;QML_FILES;LINK;BASED_ON" ${ARGN})
+    cmake_parse_arguments(arg "" "URI" "SOURCES;QML_FILES;PUBLIC;PRIVATE;BASED_ON" ${ARGN})
     set(target hv_${folder}_qml)
     string(REPLACE "." "/" path "${arg_URI}")
     # Inside the module a file is known by its name alone: components sit flat in the module
@@ -36,50 +46,65 @@ function(hv_add_qml_module folder)
         QML_FILES ${arg_QML_FILES}
         DEPENDENCIES QtQuick ${arg_BASED_ON}
         IMPORT_PATH "${PROJECT_BINARY_DIR}/qml")
-    target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}/src"
-        PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/qml")
-    target_link_libraries(${target} PUBLIC Qt6::Quick ${arg_LINK} PRIVATE hv_warnings)
+    # The generated registration includes headers by their names alone.
+    set(folders)
+    foreach(file IN LISTS arg_SOURCES)
+        get_filename_component(in "${CMAKE_CURRENT_SOURCE_DIR}/${file}" DIRECTORY)
+        list(APPEND folders "${in}")
+    endforeach()
+    list(REMOVE_DUPLICATES folders)
+    target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}/src" PRIVATE ${folders})
+    target_link_libraries(${target}
+        PUBLIC Qt6::Quick ${arg_PUBLIC} PRIVATE ${arg_PRIVATE} hv_warnings)
+    hv_precompile(${target} quick)
 endfunction()
 
-# hv_add_test(<name> SOURCES … LINK …)
-# A GoogleTest program; ctest lists each of its tests by name.
-function(hv_add_test name)
-    cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
-    set(target test_${name})
+# hv_add_test(<folder> SOURCES … LINK … DEFINE …)
+# A folder's GoogleTest program; ctest lists each of its tests by name.
+function(hv_add_test folder)
+    cmake_parse_arguments(arg "" "" "SOURCES;LINK;DEFINE" ${ARGN})
+    set(target test_${folder})
     add_executable(${target} ${arg_SOURCES})
     set_target_properties(${target} PROPERTIES AUTOMOC ON)
     target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+    target_compile_definitions(${target} PRIVATE ${arg_DEFINE})
     target_link_libraries(${target} PRIVATE hv_warnings ${arg_LINK} GTest::gtest)
+    hv_precompile(${target} test)
     gtest_discover_tests(${target}
         DISCOVERY_TIMEOUT 60
         PROPERTIES
             TIMEOUT 300
+            LABELS ${folder}
             ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software")
 endfunction()
 
-# hv_add_qml_test(<name> SOURCES … LINK …)
+# hv_add_qml_test(<folder> SOURCES … LINK …)
 # A Qt Quick Test program over the tst_*.qml files beside it.
-function(hv_add_qml_test name)
+function(hv_add_qml_test folder)
     cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
-    set(target qmltest_${name})
+    set(target qmltest_${folder})
     add_executable(${target} ${arg_SOURCES})
     set_target_properties(${target} PROPERTIES AUTOMOC ON)
     target_compile_definitions(${target} PRIVATE
         QUICK_TEST_SOURCE_DIR="${CMAKE_CURRENT_SOURCE_DIR}")
     target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
     target_link_libraries(${target} PRIVATE hv_warnings ${arg_LINK} Qt6::QuickTest)
+    hv_precompile(${target} test)
     add_test(NAME ${target} COMMAND ${target})
     set_tests_properties(${target} PROPERTIES
         TIMEOUT 300
+        LABELS ${folder}
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software")
 endfunction()
 
 # hv_add_bench(<name> SOURCES … LINK …)
-# A Google Benchmark program, build/bench/<name>; never run by ctest.
+# A Google Benchmark program, build/bench/<name>; built by the target "benchmarks" and never run by
+# ctest.
 function(hv_add_bench name)
     cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
     set(target bench_${name})
-    add_executable(${target} ${arg_SOURCES})
+    add_executable(${target} EXCLUDE_FROM_ALL ${arg_SOURCES})
+    add_dependencies(benchmarks ${target})
     set_target_properties(${target} PROPERTIES
         AUTOMOC ON
         OUTPUT_NAME ${name}

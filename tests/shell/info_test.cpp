@@ -48,7 +48,7 @@ protected:
     HVInfoInstalled()
     {
         if (!QDir().mkpath(prefix + u"/bin"_s)
-            || !QFile::copy(QStringLiteral(HV_TEST_CHILD), prefix + u"/bin/program"_s))
+            || !QFile::copy(QStringLiteral(HV_INFO_TEST_CHILD), prefix + u"/bin/program"_s))
             qFatal("The program can't be installed for a test.");
     }
 

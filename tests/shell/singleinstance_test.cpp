@@ -34,7 +34,7 @@ public:
     explicit Other(const QStringList &arguments)
     {
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(QStringLiteral(HV_TEST_CHILD), arguments);
+        m_process.start(QStringLiteral(HV_SINGLEINSTANCE_TEST_CHILD), arguments);
     }
     ~Other() { kill(); }
     Q_DISABLE_COPY_MOVE(Other)

@@ -1,0 +1,6 @@
+// The same for test programs.
+#pragma once
+
+#include "plain.h"
+
+#include <gtest/gtest.h>
