@@ -89,7 +89,6 @@ function(hv_add_qml_test folder)
         QUICK_TEST_SOURCE_DIR="${CMAKE_CURRENT_SOURCE_DIR}")
     target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
     target_link_libraries(${target} PRIVATE hv_warnings ${arg_LINK} Qt6::QuickTest)
-    hv_precompile(${target} test)
     add_test(NAME ${target} COMMAND ${target})
     set_tests_properties(${target} PROPERTIES
         TIMEOUT 300

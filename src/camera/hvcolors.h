@@ -17,7 +17,7 @@ inline const QString brassID = QStringLiteral("mf-black-brass");
 
 /// The palette that every screen and camera part is given as `c`. The body follows the theme; the
 /// display's own colours (`oled…`) don't, so that the screen looks alike under every body and only
-/// its glow follows the accent. All colours are opaque sRGB.
+/// its glow follows the accent. All colors are opaque sRGB but the tints.
 struct HVColors {
     Q_GADGET
     Q_PROPERTY(QColor body READ body)
@@ -34,6 +34,24 @@ struct HVColors {
     Q_PROPERTY(QColor good READ good)
     Q_PROPERTY(QColor warn READ warn)
     Q_PROPERTY(QColor bad READ bad)
+    Q_PROPERTY(QColor hover READ hover)
+    Q_PROPERTY(QColor quiet READ quiet)
+    Q_PROPERTY(QColor quietUnderPointer READ quietUnderPointer)
+    Q_PROPERTY(QColor track READ track)
+    Q_PROPERTY(QColor divider READ divider)
+    Q_PROPERTY(QColor cardEdge READ cardEdge)
+    Q_PROPERTY(QColor cardEdgeRaised READ cardEdgeRaised)
+    Q_PROPERTY(QColor fieldEdge READ fieldEdge)
+    Q_PROPERTY(QColor halo READ halo)
+    Q_PROPERTY(QColor haloRaised READ haloRaised)
+    Q_PROPERTY(QColor titleHalo READ titleHalo)
+    Q_PROPERTY(QColor buttonEdge READ buttonEdge)
+    Q_PROPERTY(QColor pilot READ pilot)
+    Q_PROPERTY(QColor keyTop READ keyTop)
+    Q_PROPERTY(QColor selection READ selection)
+    Q_PROPERTY(QColor fieldFill READ fieldFill)
+    Q_PROPERTY(QColor contents READ contents)
+    Q_PROPERTY(QColor callout READ callout)
 public:
     using RGB = CRVNTheme::RGB;
 
@@ -73,7 +91,42 @@ public:
     [[nodiscard]] QColor warn() const { return warnRGB.color(); }
     [[nodiscard]] QColor bad() const { return badRGB.color(); }
 
+    // Tints: a color of the palette, laid thinly over what is there.
+    /// Under a row that the pointer is over.
+    [[nodiscard]] QColor hover() const { return tint(glow(), 0.07f); }
+    /// In a button that isn't prominent.
+    [[nodiscard]] QColor quiet() const { return tint(glow(), 0.1f); }
+    [[nodiscard]] QColor quietUnderPointer() const { return tint(glow(), 0.2f); }
+    /// What progress fills.
+    [[nodiscard]] QColor track() const { return tint(glow(), 0.12f); }
+    [[nodiscard]] QColor divider() const { return tint(glow(), 0.15f); }
+    [[nodiscard]] QColor cardEdge() const { return tint(glow(), 0.16f); }
+    [[nodiscard]] QColor cardEdgeRaised() const { return tint(glow(), 0.4f); }
+    [[nodiscard]] QColor fieldEdge() const { return tint(glow(), 0.3f); }
+    /// Around what is lit from within.
+    [[nodiscard]] QColor halo() const { return tint(glow(), 0.25f); }
+    [[nodiscard]] QColor haloRaised() const { return tint(glow(), 0.45f); }
+    [[nodiscard]] QColor titleHalo() const { return tint(glow(), 0.5f); }
+    [[nodiscard]] QColor buttonEdge() const { return tint(glow(), 0.55f); }
+    /// The light in a pressed key or the shutter.
+    [[nodiscard]] QColor pilot() const { return tint(accent(), 0.55f); }
+    [[nodiscard]] QColor keyTop() const { return tint(accent(), 0.95f); }
+    /// Behind selected text.
+    [[nodiscard]] QColor selection() const { return tint(accent(), 0.75f); }
+    [[nodiscard]] QColor fieldFill() const { return tint(oled(), 0.45f); }
+    /// Under the contents of the course.
+    [[nodiscard]] QColor contents() const { return tint(oledCard(), 0.6f); }
+    /// Warm in every theme: a callout is a warning, whatever the camera wears.
+    [[nodiscard]] QColor callout() const { return tint(warn(), 0.08f); }
+
     friend bool operator==(const HVColors &, const HVColors &) = default;
+
+private:
+    [[nodiscard]] static QColor tint(QColor color, float opacity)
+    {
+        color.setAlphaF(opacity);
+        return color;
+    }
 };
 
 /// The colour of a difficulty word, in any case: green for "beginner", the glow for

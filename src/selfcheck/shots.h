@@ -2,6 +2,8 @@
 // the program shows on it.
 #pragma once
 
+#include "camera/geometry.h"
+
 #include <QList>
 #include <QSize>
 #include <QString>
@@ -14,7 +16,7 @@ struct Shot {
     enum class Subject { Camera, HelpCredits, TripodDiagram };
 
     QString name;                            ///< Of the file, without ".png".
-    QSize size = QSize(1440, 920);           ///< Pixels.
+    QSize size = Geometry::usualWindow.toSize(); ///< Pixels.
     QString themeID;                         ///< Empty keeps the theme of the shot before.
     std::function<void(AppModel &)> arrange; ///< Puts the model in the state of the picture.
     bool online = true;

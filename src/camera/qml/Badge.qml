@@ -12,15 +12,15 @@ Item {
     ContinuousRectangle {
         anchors.fill: parent
         radius: 17
-        fillFrom: CNUI.gray(0.85)
-        fillTo: CNUI.gray(0.45)
+        fillFrom: Metal.badge.top
+        fillTo: Metal.badge.bottom
         strokeWidth: 1
-        strokeFrom: CNUI.gray(0, 0.6)
+        strokeFrom: Metal.badge.edgeTop
     }
     MuteHvText {
         anchors.centerIn: parent
         text: "CRVN"
-        color: CNUI.gray(0, 0.8)
-        font: CNUI.cnFont(8.5, Font.Black)
+        color: Metal.print
+        font: Type.badge
     }
 }

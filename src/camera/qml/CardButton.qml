@@ -11,7 +11,7 @@ Pressable {
     default property alias content: inner.data
 
     padding: 10
-    cornerRadius: 16
+    cornerRadius: Geometry.cardRadius
     focusInk: root.c.glow
     scale: root.down ? 0.99 : 1
 

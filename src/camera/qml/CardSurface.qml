@@ -9,8 +9,8 @@ ContinuousRectangle {
     required property hvColors c
     property bool raised: false
 
-    radius: 16
+    radius: Geometry.cardRadius
     fillFrom: root.raised ? Qt.lighter(root.c.oledCard, 1.35) : root.c.oledCard
     strokeWidth: 1
-    strokeFrom: Qt.alpha(root.c.glow, root.raised ? 0.4 : 0.16)
+    strokeFrom: root.raised ? root.c.cardEdgeRaised : root.c.cardEdge
 }

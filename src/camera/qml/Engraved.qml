@@ -27,13 +27,13 @@ Item {
         y: metrics.cut
         text: root.text
         font: metrics.face
-        color: CNUI.gray(1, 0.14)
+        color: Metal.litCut
     }
     MuteHvText {
         y: -metrics.cut
         text: root.text
         font: metrics.face
-        color: CNUI.gray(0, 0.85)
+        color: Metal.darkCut
     }
     MuteHvText {
         id: top

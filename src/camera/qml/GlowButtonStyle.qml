@@ -14,14 +14,14 @@ Pressable {
     QtObject {
         id: metrics
         readonly property color ink: root.prominent ? "black" : root.c.glow
-        readonly property real fontSize: root.compact ? 11.5 : 12.5
-        readonly property real quiet: root.hovered ? 0.2 : 0.1
+        readonly property font lettering: root.compact ? Type.compactButton : Type.button
+        readonly property color quiet: root.hovered ? root.c.quietUnderPointer : root.c.quiet
     }
 
     horizontalPadding: root.compact ? 10 : 14
     verticalPadding: root.compact ? 5 : 7
     spacing: 6
-    cornerRadius: 10
+    cornerRadius: Geometry.buttonRadius
     focusInk: root.c.oledText
     opacity: root.down ? 0.7 : root.enabled ? 1 : 0.45
 
@@ -33,7 +33,7 @@ Pressable {
             visible: root.symbol !== ""
             anchors.verticalCenter: parent.verticalCenter
             name: root.symbol
-            pointSize: metrics.fontSize
+            pointSize: metrics.lettering.pointSize
             weight: Font.Bold
             ink: metrics.ink
         }
@@ -45,24 +45,24 @@ Pressable {
             text: root.text
             elide: Text.ElideRight
             color: metrics.ink
-            font: CNUI.cnFont(metrics.fontSize, Font.Bold)
+            font: metrics.lettering
         }
     }
     background: Item {
         SoftShadow {
             anchors.fill: parent
             visible: root.prominent
-            color: Qt.alpha(root.c.glow, root.hovered ? 0.45 : 0.25)
-            radius: 10
+            color: root.hovered ? root.c.haloRaised : root.c.halo
+            radius: root.cornerRadius
             blur: 8
         }
         ContinuousRectangle {
             anchors.fill: parent
-            radius: 10
+            radius: root.cornerRadius
             fillFrom: root.prominent ? (root.hovered ? Qt.lighter(root.c.glow, 1.1) : root.c.glow)
-                                     : Qt.alpha(root.c.glow, metrics.quiet)
+                                     : metrics.quiet
             strokeWidth: 1
-            strokeFrom: Qt.alpha(root.c.glow, 0.55)
+            strokeFrom: root.c.buttonEdge
         }
     }
 }

@@ -24,14 +24,14 @@ Item {
         text: heading.text
         font: heading.font
         alignment: heading.horizontalAlignment
-        color: Qt.alpha(root.c.glow, 0.5)
+        color: root.c.titleHalo
         blur: metrics.blur
     }
     HvText {
         id: heading
         width: root.width
         text: root.title.toUpperCase()
-        font: CNUI.cnFont(21, Font.ExtraBold, 1.4)
+        font: Type.title
         color: root.c.oledText
         wrapMode: Text.WordWrap
         Accessible.role: Accessible.Heading

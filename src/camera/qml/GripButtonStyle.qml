@@ -13,14 +13,13 @@ Pressable {
     QtObject {
         id: metrics
         readonly property color ink: root.selected || root.hovered ? root.c.oledText : root.c.engrave
-        readonly property real lift: root.hovered ? 0.06 : 0
-        readonly property color ground: CNUI.gray(0.07)
+        readonly property var finish: root.hovered ? Metal.keyUnderPointer : Metal.key
         readonly property size mark: Qt.size(20, 18)
     }
 
     horizontalPadding: 12
     verticalPadding: 9
-    cornerRadius: 10
+    cornerRadius: Geometry.buttonRadius
     focusInk: root.c.glow
     scale: root.down ? 0.97 : 1
 
@@ -43,7 +42,7 @@ Pressable {
             anchors.verticalCenter: parent.verticalCenter
             text: root.text
             color: metrics.ink
-            font: CNUI.cnFont(12.5, Font.Bold)
+            font: Type.button
             elide: Text.ElideRight
         }
     }
@@ -51,20 +50,20 @@ Pressable {
         SoftShadow {
             anchors.fill: parent
             anchors.topMargin: root.selected ? 0 : 2
-            color: root.selected ? Qt.alpha(root.c.glow, 0.45) : CNUI.gray(0, 0.5)
-            radius: 10
+            color: root.selected ? root.c.haloRaised : Metal.keyShadow
+            radius: root.cornerRadius
             blur: root.selected ? 9 : 5
         }
         ContinuousRectangle {
             anchors.fill: parent
-            radius: 10
-            fillFrom: root.selected ? Qt.tint(metrics.ground, Qt.alpha(root.c.accent, 0.95))
-                                    : CNUI.gray(0.2 + metrics.lift)
-            fillTo: root.selected ? Qt.tint(metrics.ground, Qt.alpha(root.c.accent, 0.55))
-                                  : CNUI.gray(0.07 + metrics.lift)
+            radius: root.cornerRadius
+            fillFrom: root.selected ? Qt.tint(Metal.ground, root.c.keyTop)
+                                    : metrics.finish.top
+            fillTo: root.selected ? Qt.tint(Metal.ground, root.c.pilot)
+                                  : metrics.finish.bottom
             strokeWidth: 1
-            strokeFrom: CNUI.gray(1, 0.3)
-            strokeTo: CNUI.gray(0, 0.8)
+            strokeFrom: metrics.finish.edgeTop
+            strokeTo: metrics.finish.edgeBottom
         }
     }
 }

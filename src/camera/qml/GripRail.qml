@@ -11,15 +11,15 @@ Item {
 
     required property hvColors c
 
-    implicitWidth: 214
+    implicitWidth: Geometry.railWidth
 
     ContinuousRectangle {
         anchors.fill: parent
-        radius: 34
-        fillFrom: CNUI.gray(0, 0.55)
+        radius: Geometry.railRadius
+        fillFrom: Metal.rail.top
         strokeWidth: 1.5
-        strokeFrom: CNUI.gray(1, 0.18)
-        strokeTo: CNUI.gray(0, 0.8)
+        strokeFrom: Metal.rail.edgeTop
+        strokeTo: Metal.rail.edgeBottom
     }
     Column {
         anchors.fill: parent

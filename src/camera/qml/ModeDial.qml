@@ -38,7 +38,7 @@ Row {
                 anchors.topMargin: 6
                 radius: 29
                 blur: 7
-                color: CNUI.gray(0, 0.6)
+                color: Metal.partShadow
             }
             DialFace {
                 anchors.fill: parent
@@ -59,7 +59,7 @@ Row {
         contentItem: MuteHvText {
             text: AppModel.screenShortTitle
             color: root.c.glow
-            font: CNUI.cnFont(9, Font.Black)
+            font: Type.dial
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
         }

@@ -9,24 +9,16 @@ Item {
     required property hvColors c
     default property alias content: content.data
 
-    QtObject {
-        id: metrics
-        readonly property real bezel: 7
-        readonly property real padding: 10
-        // The glass gives the corners their shape; these only have to end under its bezel.
-        readonly property real corner: 14
-    }
-
     Rectangle {
         anchors.fill: parent
-        anchors.margins: metrics.bezel
-        radius: metrics.corner
+        anchors.margins: Geometry.bezel
+        radius: Geometry.displayRadius
         color: root.c.oled
     }
     FocusScope {
         id: content
         anchors.fill: parent
-        anchors.margins: metrics.bezel + metrics.padding
+        anchors.margins: Geometry.bezel + Geometry.displayPadding
         focus: true
     }
     DisplayGlass {

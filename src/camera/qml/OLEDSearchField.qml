@@ -10,6 +10,6 @@ SearchCapsule {
 
     ink: root.c.oledText
     dimInk: root.c.oledDim
-    fill: Qt.alpha(root.c.oled, 0.45)
-    rim: Qt.alpha(root.c.glow, 0.3)
+    fill: root.c.fieldFill
+    rim: root.c.fieldEdge
 }

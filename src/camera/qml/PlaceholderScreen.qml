@@ -25,7 +25,7 @@ Item {
                 anchors.horizontalCenter: parent.horizontalCenter
                 name: root.symbol
                 pointSize: 42
-                ink: Qt.alpha(root.c.glow, 0.5)
+                ink: root.c.titleHalo
             }
         }
         GlowingTitle {
@@ -38,7 +38,7 @@ Item {
             width: parent.width
             text: root.line
             color: root.c.oledDim
-            font: CNUI.cnFont(13.5)
+            font: Type.prose
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
         }

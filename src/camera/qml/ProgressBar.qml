@@ -11,7 +11,7 @@ Rectangle {
     required property hvColors c
 
     radius: height / 2
-    color: Qt.alpha(root.c.glow, 0.12)
+    color: root.c.track
 
     Rectangle {
         visible: width > 0

@@ -13,7 +13,6 @@ Item {
     QtObject {
         id: metrics
         readonly property real fraction: root.total > 0 ? root.done / root.total : 0
-        readonly property real glow: 6
     }
 
     implicitWidth: 150
@@ -24,7 +23,7 @@ Item {
 
     ProgressArc {
         anchors.fill: parent
-        anchors.margins: -metrics.glow
+        anchors.margins: -Geometry.ringGlow
         c: root.c
         fraction: metrics.fraction
         Behavior on fraction {
@@ -38,13 +37,13 @@ Item {
         MuteHvText {
             anchors.horizontalCenter: parent.horizontalCenter
             text: qsTr("%1%").arg(Math.floor(metrics.fraction * 100))
-            font: CNUI.cnFont(30, Font.ExtraBold)
+            font: Type.figure
             color: root.c.oledText
         }
         MuteHvText {
             anchors.horizontalCenter: parent.horizontalCenter
             text: qsTr("%1 of %2 lessons").arg(root.done).arg(root.total)
-            font: CNUI.cnFont(11, Font.DemiBold)
+            font: Type.strongDetail
             color: root.c.oledDim
         }
     }

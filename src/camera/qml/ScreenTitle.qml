@@ -21,7 +21,7 @@ Column {
         width: root.width
         visible: root.subtitle !== ""
         text: root.subtitle
-        font: CNUI.cnFont(12.5, Font.Medium)
+        font: Type.subtitle
         color: root.c.oledDim
         wrapMode: Text.Wrap
     }

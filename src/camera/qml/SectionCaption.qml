@@ -9,7 +9,7 @@ HvText {
     required property hvColors c
 
     topPadding: 8
-    font: CNUI.cnFont(10.5, Font.ExtraBold, 1.2)
+    font: Type.sectionCaption
     color: root.c.oledDim
     Accessible.role: Accessible.Heading
 }

@@ -9,6 +9,11 @@ Pressable {
 
     required property hvColors c
 
+    QtObject {
+        id: metrics
+        readonly property var finish: root.hovered ? Metal.shutterUnderPointer : Metal.shutter
+    }
+
     width: 46
     height: 46
     cornerRadius: 23
@@ -23,22 +28,22 @@ Pressable {
             anchors.topMargin: 3
             radius: 23
             blur: 7
-            color: CNUI.gray(0, 0.6)
+            color: Metal.partShadow
         }
         ContinuousRectangle {
             anchors.fill: parent
             radius: 23
-            fillFrom: CNUI.gray(root.hovered ? 0.82 : 0.75)
-            fillTo: CNUI.gray(0.35)
+            fillFrom: metrics.finish.top
+            fillTo: metrics.finish.bottom
             strokeWidth: 1
-            strokeFrom: CNUI.gray(1, 0.5)
-            strokeTo: CNUI.gray(0, 0.5)
+            strokeFrom: metrics.finish.edgeTop
+            strokeTo: metrics.finish.edgeBottom
         }
         SoftShadow {
             anchors.fill: cap
             radius: 17
             blur: 9
-            color: Qt.alpha(root.c.accent, 0.55)
+            color: root.c.pilot
         }
         ContinuousRectangle {
             id: cap
@@ -49,8 +54,8 @@ Pressable {
             radius: 17
             fillFrom: root.hovered ? Qt.lighter(root.c.accent, 1.12) : root.c.accent
             strokeWidth: 1
-            strokeFrom: CNUI.gray(1, 0.25)
-            strokeTo: CNUI.gray(0, 0.35)
+            strokeFrom: Metal.cap.edgeTop
+            strokeTo: Metal.cap.edgeBottom
         }
     }
     contentItem: Item {

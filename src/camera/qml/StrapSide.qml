@@ -8,7 +8,7 @@ Item {
 
     required property hvColors c
 
-    implicitWidth: 26
+    implicitWidth: Geometry.strapWidth
 
     component Lug: Item {
         width: 12
@@ -19,16 +19,16 @@ Item {
             anchors.topMargin: 2
             radius: 6
             blur: 4
-            color: CNUI.gray(0, 0.6)
+            color: Metal.partShadow
         }
         ContinuousRectangle {
             anchors.fill: parent
             radius: 6
-            fillFrom: CNUI.gray(0.7)
-            fillTo: CNUI.gray(0.3)
+            fillFrom: Metal.lug.top
+            fillTo: Metal.lug.bottom
             strokeWidth: 0.8
-            strokeFrom: CNUI.gray(1, 0.5)
-            strokeTo: CNUI.gray(0, 0.5)
+            strokeFrom: Metal.lug.edgeTop
+            strokeTo: Metal.lug.edgeBottom
         }
     }
 

@@ -25,6 +25,6 @@ ContinuousRectangle {
         anchors.centerIn: parent
         text: root.text.toUpperCase()
         color: root.color
-        font: CNUI.cnFont(9.5, Font.ExtraBold, 0.7)
+        font: Type.tag
     }
 }

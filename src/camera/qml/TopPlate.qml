@@ -21,23 +21,23 @@ Item {
         readonly property real searchWidth: 390
     }
 
-    implicitHeight: 78
+    implicitHeight: Geometry.plateHeight
 
     SoftShadow {
         anchors.fill: parent
         anchors.topMargin: 3
-        radius: 22
+        radius: Geometry.plateRadius
         blur: 8
-        color: CNUI.gray(0, 0.45)
+        color: Metal.plateShadow
     }
     ContinuousRectangle {
         anchors.fill: parent
-        radius: 22
+        radius: Geometry.plateRadius
         fillFrom: root.c.bodyHi
         fillTo: root.c.body
         strokeWidth: 1
-        strokeFrom: CNUI.gray(1, 0.25)
-        strokeTo: CNUI.gray(0, 0.6)
+        strokeFrom: Metal.plate.edgeTop
+        strokeTo: Metal.plate.edgeBottom
     }
     Row {
         id: lettering
@@ -81,10 +81,10 @@ Item {
         ContinuousRectangle {
             anchors.fill: parent
             radius: height / 2
-            fillFrom: CNUI.gray(0, 0.6)
+            fillFrom: Metal.well.top
             strokeWidth: 1
-            strokeFrom: CNUI.gray(0, 0.6)
-            strokeTo: CNUI.gray(1, 0.12)
+            strokeFrom: Metal.well.edgeTop
+            strokeTo: Metal.well.edgeBottom
         }
         OLEDSearchField {
             id: search

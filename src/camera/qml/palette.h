@@ -1,10 +1,19 @@
-// The camera palette under its QML name, and the one place that QML takes it from.
+// The camera's sizes and its palette under their QML names, and the one place that QML takes the
+// palette from.
 #pragma once
 
+#include "camera/geometry.h"
 #include "camera/hvcolors.h"
 
 #include <QObject>
 #include <QtQml/qqml.h>
+
+struct GeometryForQml {
+    Q_GADGET
+    QML_FOREIGN(Geometry)
+    QML_NAMED_ELEMENT(Geometry)
+    QML_SINGLETON
+};
 
 struct HVColorsForQml {
     Q_GADGET

@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import Halvorin.Kit
+import Halvorin.Camera
 import Halvorin.Shell
 import Halvorin.Window
 
@@ -10,19 +11,11 @@ import Halvorin.Window
 T.ApplicationWindow {
     id: root
 
-    QtObject {
-        id: metrics
-        // Sizes of the camera; the menu bar stands above it.
-        readonly property size minimum: Qt.size(900, 620)
-        readonly property size usual: Qt.size(1440, 920)
-        readonly property size design: Qt.size(1240, 800)
-    }
-
     title: CNUI.appName
-    width: metrics.usual.width
-    height: metrics.usual.height + root.menuBar.height
-    minimumWidth: metrics.minimum.width
-    minimumHeight: metrics.minimum.height + root.menuBar.height
+    width: Geometry.usualWindow.width
+    height: Geometry.usualWindow.height + root.menuBar.height
+    minimumWidth: Geometry.minimumWindow.width
+    minimumHeight: Geometry.minimumWindow.height + root.menuBar.height
     color: CNUI.theme.bg
 
     // Other windows may be open; the camera is the program.
@@ -51,7 +44,7 @@ T.ApplicationWindow {
 
         CNZoomHost {
             anchors.fill: parent
-            minSize: metrics.design
+            minSize: Geometry.minimumLayout
 
             MainWindow {
                 id: camera

@@ -30,41 +30,31 @@ FocusScope {
         id: ahead
         property list<Component> components // What nothing holds may be forgotten.
     }
-    QtObject {
-        id: metrics
-        readonly property real margin: 14
-        readonly property real sideInset: 22
-        readonly property real topInset: 18
-        readonly property real plateGap: 14
-        readonly property real columnGap: 12
-        // The glass hides the body behind it; its round corners don't. They ease over 1.6 times
-        // their radius of 28.
-        readonly property real displayCorner: 45
-    }
 
     SoftShadow {
         anchors.fill: body
         anchors.topMargin: 12
         anchors.bottomMargin: -12
-        radius: 46
+        radius: Geometry.bodyRadius
         blur: 16
         hollow: true
-        color: CNUI.gray(0, 0.65)
+        color: Metal.bodyShadow
     }
     CameraBodyBackground {
         id: body
         anchors.fill: parent
-        anchors.margins: metrics.margin
+        anchors.margins: Geometry.bodyMargin
         c: root.c
-        display: Qt.rect(metrics.sideInset + display.x, metrics.topInset + display.y + metrics.displayCorner,
-                         display.width, display.height - 2 * metrics.displayCorner)
+        // The glass hides the body behind it; its round corners don't.
+        display: Qt.rect(Geometry.bodySideInset + display.x, Geometry.bodyTopInset + display.y + Geometry.bezelReach,
+                         display.width, display.height - 2 * Geometry.bezelReach)
     }
     Item {
         anchors.fill: body
-        anchors.leftMargin: metrics.sideInset
-        anchors.rightMargin: metrics.sideInset
-        anchors.topMargin: metrics.topInset
-        anchors.bottomMargin: metrics.topInset
+        anchors.leftMargin: Geometry.bodySideInset
+        anchors.rightMargin: Geometry.bodySideInset
+        anchors.topMargin: Geometry.bodyTopInset
+        anchors.bottomMargin: Geometry.bodyTopInset
 
         TopPlate {
             id: plate
@@ -81,11 +71,11 @@ FocusScope {
             id: display
             anchors {
                 left: rail.right
-                leftMargin: metrics.columnGap
+                leftMargin: Geometry.columnGap
                 right: strap.left
-                rightMargin: metrics.columnGap
+                rightMargin: Geometry.columnGap
                 top: plate.bottom
-                topMargin: metrics.plateGap
+                topMargin: Geometry.rowGap
                 bottom: parent.bottom
             }
             c: root.c

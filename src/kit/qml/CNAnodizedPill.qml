@@ -16,16 +16,16 @@ Item {
     ContinuousRectangle {
         anchors.fill: parent
         radius: height / 2
-        fillFrom: CNUI.gray(1, 0.14)
-        fillTo: CNUI.gray(1, 0.06)
+        fillFrom: Metal.anodized.top
+        fillTo: Metal.anodized.bottom
         strokeWidth: 1
-        strokeFrom: CNUI.gray(1, 0.35)
-        strokeTo: CNUI.gray(1, 0.12)
+        strokeFrom: Metal.anodized.edgeTop
+        strokeTo: Metal.anodized.edgeBottom
     }
     MuteHvText {
         id: label
         anchors.centerIn: parent
         text: root.text
-        font: CNUI.cnFont(10, Font.ExtraBold)
+        font: Type.pill
     }
 }

@@ -10,8 +10,8 @@ Pressable {
 
     QtObject {
         id: metrics
-        readonly property color top: root.prominent ? Qt.alpha(CNUI.theme.accent, 0.95) : CNUI.gray(0.42)
-        readonly property color bottom: root.prominent ? Qt.alpha(CNUI.theme.accent, 0.6) : CNUI.gray(0.16)
+        readonly property color top: root.prominent ? Qt.alpha(CNUI.theme.accent, 0.95) : Metal.chrome.top
+        readonly property color bottom: root.prominent ? Qt.alpha(CNUI.theme.accent, 0.6) : Metal.chrome.bottom
     }
 
     horizontalPadding: root.compact ? 12 : 16
@@ -22,7 +22,7 @@ Pressable {
     contentItem: MuteHvText {
         text: root.text
         color: "white"
-        font: CNUI.cnFont(root.compact ? 11 : 12.5, Font.Bold)
+        font: root.compact ? Type.compactChrome : Type.button
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
     }
@@ -31,7 +31,7 @@ Pressable {
             anchors.fill: parent
             anchors.topMargin: 2
             anchors.bottomMargin: -2
-            color: CNUI.gray(0, 0.4)
+            color: Metal.buttonShadow
             radius: root.cornerRadius
             blur: 4
         }
@@ -41,8 +41,8 @@ Pressable {
             fillFrom: root.hovered ? Qt.lighter(metrics.top, 1.12) : metrics.top
             fillTo: root.hovered ? Qt.lighter(metrics.bottom, 1.12) : metrics.bottom
             strokeWidth: 1
-            strokeFrom: CNUI.gray(1, 0.55)
-            strokeTo: CNUI.gray(0, 0.5)
+            strokeFrom: Metal.chrome.edgeTop
+            strokeTo: Metal.chrome.edgeBottom
         }
     }
 }

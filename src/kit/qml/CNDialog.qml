@@ -46,7 +46,7 @@ T.Dialog {
                 anchors.topMargin: 8
                 radius: 20
                 blur: 28
-                color: CNUI.gray(0, 0.7)
+                color: Metal.dialogShadow
             }
             CNPanel {
                 anchors.fill: parent
@@ -60,12 +60,12 @@ T.Dialog {
                     HvText {
                         width: parent.width
                         text: root.title
-                        font: CNUI.cnFont(16, Font.ExtraBold)
+                        font: Type.dialogTitle
                     }
                     HvText {
                         width: parent.width
                         text: root.message
-                        font: CNUI.cnFont(13)
+                        font: Type.message
                         lineHeight: 1.15
                         wrapMode: Text.Wrap
                     }
@@ -87,6 +87,6 @@ T.Dialog {
     }
     background: null
     T.Overlay.modal: Rectangle {
-        color: CNUI.gray(0, 0.55)
+        color: Metal.veil
     }
 }

@@ -38,7 +38,7 @@ T.Menu {
             anchors.topMargin: 4
             radius: 10
             blur: 14
-            color: CNUI.gray(0, 0.6)
+            color: Metal.partShadow
         }
         ContinuousRectangle {
             anchors.fill: parent

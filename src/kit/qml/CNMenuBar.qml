@@ -21,7 +21,7 @@ T.MenuBar {
         contentItem: MuteHvText {
             id: title
             text: CNUI.withoutMnemonic(item.text)
-            font: CNUI.cnFont(12, Font.Medium)
+            font: Type.menuTitle
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
         }

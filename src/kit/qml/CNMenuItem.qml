@@ -27,7 +27,7 @@ T.MenuItem {
             x: 26
             anchors.verticalCenter: parent.verticalCenter
             text: CNUI.withoutMnemonic(root.text)
-            font: CNUI.cnFont(12)
+            font: Type.row
             color: CNUI.theme.text
         }
         MuteHvText {
@@ -36,7 +36,7 @@ T.MenuItem {
             anchors.rightMargin: 10
             anchors.verticalCenter: parent.verticalCenter
             text: root.subMenu ? "" : root.keys
-            font: CNUI.cnFont(11)
+            font: Type.detail
             color: CNUI.theme.dim
         }
     }

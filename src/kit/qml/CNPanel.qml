@@ -18,8 +18,8 @@ Item {
         fillFrom: CNUI.theme.panelTop
         fillTo: CNUI.theme.panelBottom
         strokeWidth: 1
-        strokeFrom: CNUI.gray(1, 0.35)
-        strokeTo: CNUI.gray(0, 0.5)
+        strokeFrom: Metal.panel.edgeTop
+        strokeTo: Metal.panel.edgeBottom
     }
     Item {
         id: inner

@@ -26,7 +26,7 @@ T.ToolTip {
     contentItem: HvText {
         id: words
         text: root.text
-        font: CNUI.cnFont(11.5 * root.zoom, Font.Medium)
+        font: CNUI.cnFont(Type.tip.pointSize * root.zoom, Type.tip.weight)
     }
     background: ContinuousRectangle {
         radius: 7 * root.zoom

@@ -6,6 +6,6 @@ import Halvorin.Kit
     an HvText. */
 Text {
     textFormat: Text.PlainText
-    font: CNUI.cnFont(12.5)
+    font: Type.text
     color: CNUI.theme.text
 }

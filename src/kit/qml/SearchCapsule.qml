@@ -12,7 +12,7 @@ Item {
     property real spacing: 6
     property color ink: CNUI.theme.text
     property color dimInk: CNUI.theme.dim
-    property color fill: CNUI.gray(0, 0.35)
+    property color fill: Metal.fieldFill
     property color rim: CNUI.theme.rim
     readonly property alias editing: field.activeFocus
 
@@ -62,7 +62,7 @@ Item {
         selectedTextColor: "white"
         selectByMouse: true
         verticalAlignment: TextInput.AlignVCenter
-        font: CNUI.cnFont(13, Font.Medium)
+        font: Type.field
         onTextEdited: root.edited(field.text)
         Accessible.name: root.prompt
         Keys.onEscapePressed: event => {

@@ -35,7 +35,7 @@ HVScroll {
             HvText {
                 width: parent.width
                 text: qsTr("Work through the modules in order or jump to what you need. The Exposure Lab and Lens Lab let you try every idea with real numbers; the Gear Encyclopedia explains everything a photographer carries.")
-                font: CNUI.cnFont(13.5)
+                font: Type.prose
                 color: root.c.oledDim
                 wrapMode: Text.Wrap
             }
@@ -79,7 +79,7 @@ HVScroll {
     HvText {
         topPadding: 6
         text: qsTr("MODULES")
-        font: CNUI.cnFont(11, Font.ExtraBold, 1.5)
+        font: Type.groupCaption
         color: root.c.oledDim
         Accessible.role: Accessible.Heading
     }

@@ -13,25 +13,23 @@ FocusScope {
     QtObject {
         id: metrics
         readonly property real contentsWidth: 290
-        // The contents reach through the display's padding to its edge.
-        readonly property real displayPadding: 10
     }
 
     CourseReading {
         id: reading
     }
     Item {
-        x: -metrics.displayPadding
-        y: -metrics.displayPadding
-        width: metrics.contentsWidth + metrics.displayPadding
-        height: root.height + 2 * metrics.displayPadding
+        x: -Geometry.displayPadding
+        y: -Geometry.displayPadding
+        width: metrics.contentsWidth + Geometry.displayPadding
+        height: root.height + 2 * Geometry.displayPadding
         clip: true
         // Wider than what shows, so that only the corners at the display's edge are round.
         Rectangle {
             width: parent.width + radius
             height: parent.height
-            radius: 14
-            color: Qt.alpha(root.c.oledCard, 0.6)
+            radius: Geometry.displayRadius
+            color: root.c.contents
         }
     }
     CourseContents {
@@ -41,10 +39,10 @@ FocusScope {
     }
     Rectangle {
         x: metrics.contentsWidth
-        y: -metrics.displayPadding
+        y: -Geometry.displayPadding
         width: 1
-        height: root.height + 2 * metrics.displayPadding
-        color: Qt.alpha(root.c.glow, 0.15)
+        height: root.height + 2 * Geometry.displayPadding
+        color: root.c.divider
     }
     Loader {
         id: pane

@@ -16,8 +16,6 @@ Item {
 
     QtObject {
         id: metrics
-        // Warm in every theme: a callout is a warning, whatever the camera wears.
-        readonly property color warm: Qt.rgba(1.0, 0.78, 0.35, 1)
         readonly property real platePadding: 10
         readonly property real barWidth: 3
     }
@@ -43,14 +41,14 @@ Item {
             width: root.width
             height: modelData.height
             radius: 10
-            fillFrom: Qt.alpha(metrics.warm, 0.08)
+            fillFrom: root.c.callout
 
             Rectangle {
                 x: metrics.platePadding
                 y: metrics.platePadding
                 width: metrics.barWidth
                 height: plate.height - 2 * metrics.platePadding
-                color: metrics.warm
+                color: root.c.warn
             }
         }
     }
@@ -77,7 +75,7 @@ Item {
         wrapMode: TextEdit.Wrap
         font: CNUI.cnFont(root.size)
         color: root.c.oledText
-        selectionColor: Qt.alpha(root.c.accent, 0.75)
+        selectionColor: root.c.selection
         selectedTextColor: "white"
         onActiveFocusChanged: if (!activeFocus) deselect()
         Accessible.role: Accessible.StaticText

@@ -11,8 +11,8 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
-        anchors.margins: -10
-        color: Qt.alpha("black", 0.6)
+        anchors.margins: -Geometry.displayPadding
+        color: Metal.partShadow
         // Nothing under the panel may be clicked or scrolled.
         MouseArea {
             anchors.fill: parent
@@ -22,7 +22,7 @@ FocusScope {
     }
     SoftShadow {
         anchors.fill: card
-        radius: 16
+        radius: Geometry.cardRadius
         blur: 20
         color: "black"
     }

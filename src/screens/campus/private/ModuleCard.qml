@@ -38,21 +38,21 @@ CardButton {
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
                 text: qsTr("%1/%2").arg(root.doneIn).arg(root.lessonsIn)
-                font: CNUI.cnMono(11, Font.Bold)
+                font: Type.count
                 color: root.c.oledDim
             }
         }
         MuteHvText {
             width: parent.width
             text: root.title
-            font: CNUI.cnFont(14, Font.ExtraBold)
+            font: Type.cardTitle
             color: root.c.oledText
             wrapMode: Text.Wrap
         }
         MuteHvText {
             width: parent.width
             text: root.summary
-            font: CNUI.cnFont(11.5)
+            font: Type.summary
             color: root.c.oledDim
             wrapMode: Text.Wrap
         }

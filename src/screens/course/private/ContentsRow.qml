@@ -11,8 +11,7 @@ Pressable {
     property real symbolSize: 11
     property color symbolInk: root.c.oledDim
     property color ink: root.c.oledText
-    property real fontSize: 12
-    property int weight: Font.Normal
+    property font lettering: Type.row
 
     QtObject {
         id: metrics
@@ -32,7 +31,7 @@ Pressable {
                 anchors.centerIn: parent
                 name: root.symbol
                 pointSize: root.symbolSize
-                weight: root.weight === Font.Normal ? Font.DemiBold : root.weight
+                weight: Math.max(Font.DemiBold, root.lettering.weight)
                 ink: root.symbolInk
             }
         }
@@ -46,7 +45,7 @@ Pressable {
             x: metrics.markWidth + metrics.gap
             width: parent.width - x
             text: root.text
-            font: CNUI.cnFont(root.fontSize, root.weight)
+            font: root.lettering
             color: root.ink
             wrapMode: Text.Wrap
         }
@@ -57,6 +56,6 @@ Pressable {
         width: root.width - x
         height: root.height
         radius: 6
-        fillFrom: Qt.alpha(root.c.glow, 0.07)
+        fillFrom: root.c.hover
     }
 }

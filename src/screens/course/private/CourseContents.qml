@@ -35,8 +35,7 @@ HVScroll {
                 symbol: moduleRow.open ? "chevron.down" : "chevron.right"
                 symbolSize: 10
                 symbolInk: root.c.glow
-                weight: Font.Bold
-                fontSize: 12.5
+                lettering: Type.button
                 verticalPadding: 5
                 Accessible.description: moduleRow.open ? qsTr("Open") : qsTr("Closed")
                 onClicked: outline.toggleModule(moduleRow.moduleID)
@@ -63,8 +62,7 @@ HVScroll {
                             leftPadding: 18
                             verticalPadding: 3
                             text: title
-                            fontSize: 12
-                            weight: current ? Font.Bold : Font.Normal
+                            lettering: current ? Type.currentRow : Type.row
                             ink: current ? root.c.glow : root.c.oledText
                             symbol: finished ? "checkmark.circle.fill" : "circle"
                             symbolSize: 11
@@ -79,8 +77,7 @@ HVScroll {
                         leftPadding: 18
                         verticalPadding: 4
                         text: qsTr("Module quiz")
-                        fontSize: 12
-                        weight: Font.Bold
+                        lettering: Type.currentRow
                         ink: moduleRow.quizOpen ? root.c.glow : root.c.warn
                         symbol: "checklist"
                         symbolSize: 12

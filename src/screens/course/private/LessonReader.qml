@@ -27,7 +27,7 @@ HVScroll {
             id: moduleTitle
             width: parent.width - minutes.width - 12
             text: lesson.moduleTitle
-            font: CNUI.cnFont(10.5, Font.ExtraBold, 1.2)
+            font: Type.sectionCaption
             color: root.c.oledDim
             elide: Text.ElideRight
         }
@@ -35,7 +35,7 @@ HVScroll {
             id: minutes
             anchors.right: parent.right
             text: qsTr("%1 min read").arg(lesson.minutes)
-            font: CNUI.cnFont(11)
+            font: Type.detail
             color: root.c.oledDim
         }
     }

@@ -53,7 +53,7 @@ HVScroll {
                     id: number
                     anchors.verticalCenter: parent.verticalCenter
                     text: card.number
-                    font: CNUI.cnMono(13, Font.ExtraBold)
+                    font: Type.number
                     color: root.c.glow
                 }
                 MuteHvText {
@@ -62,7 +62,7 @@ HVScroll {
                     width: parent.width - x - minutes.width - 12
                     anchors.verticalCenter: parent.verticalCenter
                     text: card.title
-                    font: CNUI.cnFont(13.5, Font.DemiBold)
+                    font: Type.entryTitle
                     color: root.c.oledText
                     wrapMode: Text.Wrap
                 }
@@ -71,7 +71,7 @@ HVScroll {
                     anchors.right: parent.right
                     anchors.verticalCenter: parent.verticalCenter
                     text: qsTr("%1 min").arg(card.minutes)
-                    font: CNUI.cnFont(11)
+                    font: Type.detail
                     color: root.c.oledDim
                 }
             }
