@@ -61,7 +61,7 @@ HWY_ATTR HWY_INLINE void layOver(
 }
 
 // Bytes of linear light, by the table of Srgb::ByteTable; as whole numbers.
-HWY_ATTR HWY_INLINE Floats encodeByTable(Floats linear, const std::int32_t *table)
+HWY_ATTR HWY_INLINE Floats encoded(Floats linear, const std::int32_t *table)
 {
     using Table = Srgb::ByteTable;
     const Floats limited
@@ -74,48 +74,6 @@ HWY_ATTR HWY_INLINE Floats encodeByTable(Floats linear, const std::int32_t *tabl
     // A comparison that holds is −1 in every lane.
     const Ints more = hn::VecFromMask(kInts, hn::Not(hn::Lt(low, from)));
     return hn::ConvertTo(kFloats, hn::Sub(hn::ShiftRight<Table::kByteShift>(entry), more));
-}
-
-// 255 times the encoded value of linear light, to within Srgb::OctaveCurve::kError. Needs vectors
-// that hold a number for each octave, and isn't used with shorter ones.
-[[maybe_unused]] HWY_ATTR HWY_INLINE Floats curve(Floats linear, const float *octaves)
-{
-    using Curve = Srgb::OctaveCurve;
-    const Floats limited = hn::Min(hn::Max(linear, hn::Zero(kFloats)), hn::Set(kFloats, 1.0F));
-    const Ints bits = hn::BitCast(kInts, limited);
-    const Ints octave
-        = hn::And(hn::ShiftRight<Curve::kMantissaBits>(bits), hn::Set(kInts, Curve::kOctaves - 1));
-    const Floats scale
-        = hn::TableLookupLanes(hn::LoadU(kFloats, octaves), hn::IndicesFromVec(kFloats, octave));
-    const Floats mantissa = hn::BitCast(kFloats,
-        hn::Or(hn::And(bits, hn::Set(kInts, (1 << Curve::kMantissaBits) - 1)),
-            hn::BitCast(kInts, hn::Set(kFloats, 1.0F))));
-    Floats power = hn::Set(kFloats, Curve::kPower[0]);
-    for (std::size_t i = 1; i < Curve::kPower.size(); ++i)
-        power = hn::MulAdd(power, mantissa, hn::Set(kFloats, Curve::kPower[i]));
-    return hn::IfThenElse(hn::Lt(limited, hn::Set(kFloats, Curve::kLinearEnd)),
-        hn::Mul(limited, hn::Set(kFloats, Curve::kSlope)),
-        hn::MulAdd(scale, power, hn::Set(kFloats, Curve::kOffset)));
-}
-
-// The table's bytes. Long vectors compute the curve, which is quicker than gathering entries, and
-// leave to the table what is too close to call.
-HWY_ATTR HWY_INLINE void encode(
-    const Floats (&linear)[3], const std::int32_t *table, const float *octaves, Floats (&bytes)[3])
-{
-    using Curve = Srgb::OctaveCurve;
-    if constexpr (kLanes >= Curve::kOctaves) {
-        Floats farthest = hn::Zero(kFloats);
-        for (int channel = 0; channel < 3; ++channel) {
-            const Floats value = curve(linear[channel], octaves);
-            bytes[channel] = hn::Round(value);
-            farthest = hn::Max(farthest, hn::Abs(hn::Sub(value, bytes[channel])));
-        }
-        if (hn::AllFalse(kFloats, hn::Gt(farthest, hn::Set(kFloats, 0.5F - Curve::kError))))
-            return;
-    }
-    for (int channel = 0; channel < 3; ++channel)
-        bytes[channel] = encodeByTable(linear[channel], table);
 }
 
 // How far single precision may be from the exact value of a grainy byte before its rounding. The
@@ -221,7 +179,6 @@ HWY_ATTR HWY_INLINE Ints packed(const Floats (&bytes)[3])
 HWY_ATTR void developRow(const DevelopRow &row)
 {
     const std::int32_t *table = Srgb::ByteTable::instance().entries();
-    const float *octaves = Srgb::OctaveCurve::instance().octaves();
     const Floats gain = hn::Set(kFloats, row.gain);
     const bool grainy = row.sigma > 0.01;
     const Grain grain(*row.grain, row.sigma);
@@ -238,9 +195,8 @@ HWY_ATTR void developRow(const DevelopRow &row)
         if (x >= row.subjectBegin && x < row.subjectEnd)
             layOver(row.subject, x, red, green, blue);
 
-        const Floats linear[3] = { hn::Mul(red, gain), hn::Mul(green, gain), hn::Mul(blue, gain) };
-        Floats bytes[3];
-        encode(linear, table, octaves, bytes);
+        Floats bytes[3] = { encoded(hn::Mul(red, gain), table),
+            encoded(hn::Mul(green, gain), table), encoded(hn::Mul(blue, gain), table) };
         if (grainy)
             grain.add(bytes, noise, x, row.y, row.width);
 
