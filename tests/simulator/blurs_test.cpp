@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
 #include <cmath>
 #include <numbers>
 #include <random>
@@ -280,27 +279,4 @@ TEST(FourierConvolution, ConvolvesPicturesOfAnySize)
             }
         }
     }
-}
-
-TEST(Parallel, DoesEachPieceOnce)
-{
-    for (const int threads : { 1, 2, 5 }) {
-        std::array<std::atomic<int>, 100> done{};
-        Parallel(threads).run(100, [&](int i) { ++done[static_cast<std::size_t>(i)]; });
-        for (const auto &count : done)
-            EXPECT_EQ(count, 1);
-    }
-}
-
-TEST(Parallel, HasNothingToDoForNoPieces)
-{
-    Parallel(2).run(0, [](int) { FAIL(); });
-}
-
-TEST(Parallel, MayBeUsedWithinItself)
-{
-    std::atomic<int> count = 0;
-    const Parallel parallel(2);
-    parallel.run(8, [&](int) { parallel.run(8, [&](int) { ++count; }); });
-    EXPECT_EQ(count, 64);
 }

@@ -15,6 +15,9 @@ public:
     { }
 
     /// Calls work(i) for each i from 0 to count − 1 and returns when all calls have returned.
+    ///
+    /// After a call that throws no other is begun; when those that were begun have returned, the
+    /// first exception is thrown on.
     void run(int count, const std::function<void(int)> &work) const;
 
 private:
