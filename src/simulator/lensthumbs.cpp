@@ -48,7 +48,7 @@ void LensThumbs::renderThumbs(
         Q_EMIT thumbsChanged();
         return;
     }
-    renderQueue().start([self = QPointer(this), batch = std::move(batch)] {
+    thumbQueue().start([self = QPointer(this), batch = std::move(batch)] {
         const QMap<double, QImage> thumbs = rendered(batch, {});
         QMetaObject::invokeMethod(QCoreApplication::instance(), [self, thumbs] {
             if (!self)
