@@ -1,5 +1,7 @@
 #include "simulator/shutter.h"
 
+#include "simulator/numbertext.h"
+
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -9,7 +11,7 @@ QString Shutter::label() const
     Q_ASSERT(std::isfinite(seconds) && seconds > 0);
     if (seconds >= 1) {
         const bool whole = seconds == std::floor(seconds);
-        return QString::number(seconds, 'f', whole ? 0 : 1) + u'"';
+        return NumberText::fixed(seconds, whole ? 0 : 1) + u'"';
     }
     // 0.3 is itself a time of the scale; the next shorter one is written 1/4.
     if (seconds >= 0.3)

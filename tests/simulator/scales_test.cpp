@@ -41,6 +41,12 @@ TEST(Shutter, TurnsToFractionsBelowThreeTenths)
     EXPECT_EQ(Shutter{ 0.99 }.label(), u"0.10\""_s);
 }
 
+TEST(Shutter, RoundsTiesOfLongTimesToTheEvenDigit)
+{
+    EXPECT_EQ(Shutter{ 2.25 }.label(), u"2.2\""_s);
+    EXPECT_EQ(Shutter{ 2.75 }.label(), u"2.8\""_s);
+}
+
 TEST(Shutter, IsEqualBySeconds)
 {
     EXPECT_EQ(Shutter{ 1.0 / 125 }, Shutter{ 0.008 });
