@@ -15,7 +15,9 @@ class Workspace;
 /// A disc of one radius, ready to blur layers with.
 ///
 /// Beyond a layer's edge its edge pixel repeats. Every pixel's arithmetic is the same whatever the
-/// vectors' width and the number of threads, so that all machines give the same bytes.
+/// vectors' width and the number of threads, so that all machines give the same bytes. A layer of
+/// values up to 1 is blurred to within 10⁻⁶ of the exact mean with DiscKernel's weights; a uniform
+/// one comes back unchanged to 10⁻⁶.
 class DiscBlur
 {
 public:
