@@ -1,6 +1,6 @@
+#include "simulator/scales.h"
+
 #include "simulator/exposure.h"
-#include "simulator/lightlevel.h"
-#include "simulator/shutter.h"
 
 #include "support/qtprinters.h"
 
