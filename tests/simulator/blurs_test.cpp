@@ -3,7 +3,7 @@
 #include "simulator/internal/layer.h"
 #include "simulator/internal/parallel.h"
 #include "simulator/internal/streak.h"
-#include "simulator/internal/workspace.h"
+#include "simulator/internal/workingmemory.h"
 
 #include <QImage>
 
@@ -44,20 +44,20 @@ class Blurred
 public:
     Blurred(const Layer &layer, double radius)
         : m_stride((layer.width() + 15) / 16 * 16)
-        , m_canvas{ m_workspace.floats(Workspace::Background,
+        , m_planes{ m_workspace.floats(Workspace::Background,
                         static_cast<std::size_t>(m_stride * layer.height() * 3)),
             m_stride, std::ptrdiff_t{ m_stride } * layer.height(), 0, 0 }
     {
         DiscBlur(radius).apply(
-            layer, QRect(0, 0, layer.width(), layer.height()), m_canvas, m_workspace, Parallel(2));
+            layer, QRect(0, 0, layer.width(), layer.height()), m_planes, m_workspace, Parallel(2));
     }
 
-    [[nodiscard]] double at(int channel, int x, int y) const { return m_canvas.row(channel, y)[x]; }
+    [[nodiscard]] double at(int channel, int x, int y) const { return m_planes.row(channel, y)[x]; }
 
 private:
     Workspace m_workspace;
     int m_stride;
-    Canvas m_canvas;
+    Planes m_planes;
 };
 
 } // namespace
@@ -165,8 +165,8 @@ TEST(Streak, CountsTheLinesEndsAsFarAsItCoversThem)
     std::array<float, 64> in{};
     in[8] = 1;
     alignas(64) std::array<float, 64> out{};
-    const Canvas source{ in.data(), 16, 16, 0, 0 };
-    const Canvas target{ out.data(), 16, 16, 0, 0 };
+    const Planes source{ in.data(), 16, 16, 0, 0 };
+    const Planes target{ out.data(), 16, 16, 0, 0 };
     streak({ source, QRect(0, 0, 16, 1), 16 }, 1.75, target, 16, Parallel(1));
     const std::vector<double> expected{ 0, 0.25, 1, 1, 1, 0.25, 0 };
     for (std::size_t i = 0; i < expected.size(); ++i)
@@ -178,8 +178,8 @@ TEST(Streak, ChangesNothingWithinAPixel)
     std::array<float, 64> in{};
     in[3] = 0.7F;
     alignas(64) std::array<float, 64> out{};
-    const Canvas source{ in.data(), 16, 16, 0, 0 };
-    const Canvas target{ out.data(), 16, 16, 0, 0 };
+    const Planes source{ in.data(), 16, 16, 0, 0 };
+    const Planes target{ out.data(), 16, 16, 0, 0 };
     for (const double halfLength : { 0.4, 0.5 }) {
         streak({ source, QRect(0, 0, 16, 1), 16 }, halfLength, target, 16, Parallel(1));
         EXPECT_EQ(out, in);
@@ -191,8 +191,8 @@ TEST(Streak, RepeatsThePixelsAtTheFramesEdges)
     std::array<float, 64> in{};
     in.fill(0.25F);
     alignas(64) std::array<float, 64> out{};
-    const Canvas source{ in.data(), 16, 16, 0, 0 };
-    const Canvas target{ out.data(), 16, 16, 0, 0 };
+    const Planes source{ in.data(), 16, 16, 0, 0 };
+    const Planes target{ out.data(), 16, 16, 0, 0 };
     streak({ source, QRect(0, 0, 16, 1), 16 }, 300, target, 16, Parallel(1));
     for (int x = 0; x < 16; ++x)
         EXPECT_NEAR(out[static_cast<std::size_t>(x)], 0.25, 1e-7);

@@ -7,8 +7,8 @@
 #include "simulator/internal/grain.h"
 #include "simulator/internal/layer.h"
 #include "simulator/internal/parallel.h"
+#include "simulator/internal/planes.h"
 #include "simulator/internal/srgb.h"
-#include "simulator/internal/vectors.h"
 
 #include <algorithm>
 #include <array>
@@ -231,7 +231,7 @@ void develop(const Exposed &layers, double sigma, const GrainField &grain, QImag
     parallel.run(bands, [&](int band) {
         const int top = band * kRowsAtOnce;
         const int bottom = std::min(top + kRowsAtOnce, picture.height());
-        const Canvas background = layers.background(top, bottom);
+        const Planes background = layers.background(top, bottom);
         for (int y = top; y < bottom; ++y) {
             DevelopRow row{};
             row.y = y;

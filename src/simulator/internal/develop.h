@@ -1,7 +1,7 @@
 // From layers in linear light to the picture's bytes.
 #pragma once
 
-#include "simulator/internal/canvas.h"
+#include "simulator/internal/planes.h"
 
 #include <QImage>
 #include <QRect>
@@ -16,8 +16,8 @@ class Parallel;
 struct Exposed {
     /// The rows from `top` to before `bottom`, of three channels; valid until the thread's next
     /// call.
-    std::function<Canvas(int top, int bottom)> background;
-    Canvas mover;    ///< four channels, where `moverArea` says
+    std::function<Planes(int top, int bottom)> background;
+    Planes mover;    ///< four channels, where `moverArea` says
     QRect moverArea; ///< the rest of the frame is transparent; may be empty
     const Layer *subject;
     float gain; ///< what linear light is multiplied with; NaN counts as 1

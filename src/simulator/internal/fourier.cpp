@@ -6,7 +6,7 @@
 
 #include "simulator/internal/fourier.h"
 #include "simulator/internal/parallel.h"
-#include "simulator/internal/scratch.h"
+#include "simulator/internal/workingmemory.h"
 
 #include <algorithm>
 #include <cmath>

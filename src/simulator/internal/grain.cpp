@@ -1,6 +1,6 @@
 #include "simulator/internal/grain.h"
 
-#include "simulator/internal/vectors.h"
+#include "simulator/internal/planes.h"
 
 #include <QtGlobal>
 

@@ -1,7 +1,7 @@
 #include "simulator/internal/layer.h"
 
+#include "simulator/internal/planes.h"
 #include "simulator/internal/srgb.h"
-#include "simulator/internal/vectors.h"
 
 #include <algorithm>
 #include <array>

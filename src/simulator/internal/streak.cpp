@@ -6,8 +6,8 @@
 #include "simulator/internal/streak.h"
 
 #include "simulator/internal/parallel.h"
-#include "simulator/internal/scratch.h"
-#include "simulator/internal/vectors.h"
+#include "simulator/internal/planes.h"
+#include "simulator/internal/workingmemory.h"
 
 #include <algorithm>
 #include <cmath>
@@ -148,7 +148,7 @@ HWY_AFTER_NAMESPACE();
 
 HWY_EXPORT(streakRow);
 
-void streak(const StreakSource &source, double halfLength, const Canvas &out, int right,
+void streak(const StreakSource &source, double halfLength, const Planes &out, int right,
     const Parallel &parallel)
 {
     constexpr int kRowsAtOnce = 8;
@@ -165,7 +165,7 @@ void streak(const StreakSource &source, double halfLength, const Canvas &out, in
         const int bottom = std::min(top + kRowsAtOnce, source.area.bottom() + 1);
         for (int y = top; y < bottom; ++y) {
             for (int channel = 0; channel < StreakSource::kChannels; ++channel) {
-                const float *pixels = source.canvas.row(channel, y) - source.canvas.left;
+                const float *pixels = source.planes.row(channel, y) - source.planes.left;
                 const LineRow row{ .pixels = pixels + first + begin,
                     .count = end - begin,
                     .before = begin,
