@@ -52,7 +52,7 @@ void LensThumbs::renderThumbs(
         Q_EMIT thumbsChanged();
         return;
     }
-    thumbQueue().start(
+    Simulator::thumbQueue().start(
         [self = QPointer(this), latest = m_latest, number, batch = std::move(batch)] {
             QMap<double, QImage> thumbs;
             for (const SimSettings &settings : batch) {

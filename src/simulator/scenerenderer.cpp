@@ -17,6 +17,8 @@
 #include <cmath>
 #include <mutex>
 
+using namespace Simulator;
+
 namespace {
 
 // Blurs below these sizes can't be seen, and are left out.

@@ -16,6 +16,8 @@
 #include <random>
 #include <utility>
 
+using namespace Simulator;
+
 namespace {
 
 QImage noiseImage(int width, int height)

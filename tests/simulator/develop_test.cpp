@@ -14,6 +14,8 @@
 #include <cmath>
 #include <limits>
 
+using namespace Simulator;
+
 TEST(Srgb, EncodesWhatItDecodes)
 {
     for (int i = 0; i <= 255; ++i)

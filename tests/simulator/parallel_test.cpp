@@ -11,6 +11,8 @@
 #include <stdexcept>
 #include <system_error>
 
+using namespace Simulator;
+
 namespace {
 
 // A system that gives so many threads and no more.

@@ -13,6 +13,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Simulator;
+
 namespace {
 
 // Turns the events until the sender signals; false after five seconds.

@@ -11,6 +11,8 @@
 #include <atomic>
 #include <memory>
 
+using namespace Simulator;
+
 namespace {
 
 constexpr int kPatience = 5000; // ms

@@ -19,6 +19,7 @@
 // One row of everything that makes a row of the picture. Pointers begin at column 0.
 #ifndef HV_DEVELOP_ROW
 #define HV_DEVELOP_ROW
+namespace Simulator {
 namespace {
 
 struct DevelopRow {
@@ -36,10 +37,11 @@ struct DevelopRow {
 };
 
 } // namespace
+} // namespace Simulator
 #endif
 
 HWY_BEFORE_NAMESPACE();
-namespace HWY_NAMESPACE {
+namespace Simulator::HWY_NAMESPACE {
 namespace {
 
 namespace hn = hwy::HWY_NAMESPACE;
@@ -212,10 +214,12 @@ HWY_ATTR void developRow(const DevelopRow &row)
     }
 }
 
-} // namespace HWY_NAMESPACE
+} // namespace Simulator::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
+
+namespace Simulator {
 
 HWY_EXPORT(developRow);
 
@@ -261,5 +265,7 @@ void develop(const Exposed &layers, double sigma, const GrainField &grain, QImag
         }
     });
 }
+
+} // namespace Simulator
 
 #endif

@@ -8,6 +8,8 @@
 
 #include <functional>
 
+namespace Simulator {
+
 class GrainField;
 class Layer;
 class Parallel;
@@ -30,3 +32,5 @@ struct Exposed {
 /// withGrain() gives it; none is added up to 0.01, as it could not change a byte.
 void develop(const Exposed &layers, double sigma, const GrainField &grain, QImage &picture,
     const Parallel &parallel);
+
+} // namespace Simulator

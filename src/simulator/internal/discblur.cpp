@@ -15,7 +15,7 @@
 #include <type_traits>
 
 HWY_BEFORE_NAMESPACE();
-namespace HWY_NAMESPACE {
+namespace Simulator::HWY_NAMESPACE {
 namespace {
 
 namespace hn = hwy::HWY_NAMESPACE;
@@ -330,10 +330,12 @@ HWY_ATTR void blurRows(const DiscBlur &disc, const Layer &layer, int channel, co
     }
 }
 
-} // namespace HWY_NAMESPACE
+} // namespace Simulator::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
+
+namespace Simulator {
 
 HWY_EXPORT(blurRows);
 
@@ -430,5 +432,7 @@ void DiscBlur::applyByTransform(const Layer &layer, const QRect &area, const Pla
     };
     torus.convolve(layer.channels() * cuts / 2, source, target, spectrum, kernel, parallel);
 }
+
+} // namespace Simulator
 
 #endif

@@ -8,6 +8,8 @@
 
 #include <vector>
 
+namespace Simulator {
+
 class Layer;
 class Parallel;
 class Workspace;
@@ -63,3 +65,5 @@ private:
     DiscKernel m_kernel;
     std::vector<RimColumn> m_rim; // one for each column from the center on
 };
+
+} // namespace Simulator

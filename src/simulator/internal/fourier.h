@@ -5,6 +5,8 @@
 #include <functional>
 #include <vector>
 
+namespace Simulator {
+
 class Parallel;
 
 /// A plan to transform sequences of one length, one in each lane of a vector.
@@ -94,3 +96,5 @@ private:
     FourierPlan m_down;
     FourierPlan m_back; // its first pass has the radix of m_down's last
 };
+
+} // namespace Simulator

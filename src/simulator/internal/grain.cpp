@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace Simulator {
+
 double GrainGenerator::uniform()
 {
     m_state ^= m_state << 13U;
@@ -70,3 +72,5 @@ int withGrain(int byte, double brightness, double color, double sigma)
     const double value = std::round(sigma * color * 0.35 + (sigma * brightness + byte));
     return static_cast<int>(std::clamp(value, 0.0, 255.0));
 }
+
+} // namespace Simulator

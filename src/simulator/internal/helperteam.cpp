@@ -4,6 +4,8 @@
 #include <atomic>
 #include <exception>
 
+namespace Simulator {
+
 // A job's pieces are taken one after the other by whoever is free.
 struct HelperTeam::Job {
     const std::function<void(int)> &work;
@@ -90,3 +92,5 @@ void HelperTeam::help()
             m_left.notify_all();
     }
 }
+
+} // namespace Simulator

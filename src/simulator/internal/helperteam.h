@@ -8,6 +8,8 @@
 #include <thread>
 #include <vector>
 
+namespace Simulator {
+
 /// The threads beside the calling ones. They are of the standard library, and not the application's
 /// pool: that one may be full of renders which wait for these.
 class HelperTeam
@@ -44,3 +46,5 @@ private:
     bool m_ended = false;
     std::vector<std::thread> m_threads;
 };
+
+} // namespace Simulator

@@ -7,6 +7,8 @@
 #include <array>
 #include <utility>
 
+namespace Simulator {
+
 namespace {
 
 QRect opaqueBounds(const QImage &image)
@@ -91,3 +93,5 @@ float *Layer::writableRow(int channel, int y)
 {
     return const_cast<float *>(std::as_const(*this).row(channel, y));
 }
+
+} // namespace Simulator

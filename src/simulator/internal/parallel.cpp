@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <thread>
 
+namespace Simulator {
+
 void Parallel::run(int count, const std::function<void(int)> &work) const
 {
     const int helpers = std::min(m_threads, count) - 1;
@@ -17,3 +19,5 @@ void Parallel::run(int count, const std::function<void(int)> &work) const
     static HelperTeam team(static_cast<int>(std::thread::hardware_concurrency()) - 1);
     team.run(count, work, helpers);
 }
+
+} // namespace Simulator

@@ -3,6 +3,8 @@
 
 #include <functional>
 
+namespace Simulator {
+
 /// Runs pieces of one job on several threads, the calling one among them. Which thread takes which
 /// piece is open, so a piece must depend on nothing that another one writes. May be used by several
 /// threads at once; a busy machine slows the job down and never blocks it.
@@ -23,3 +25,5 @@ public:
 private:
     int m_threads;
 };
+
+} // namespace Simulator

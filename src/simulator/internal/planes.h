@@ -3,6 +3,8 @@
 
 #include <cstddef>
 
+namespace Simulator {
+
 /// In floats: the widest vector that is ever used. Rows of floats are padded to a whole number of
 /// these, so that no step needs a case for their ends.
 inline constexpr int kWidestVector = 16;
@@ -34,3 +36,5 @@ struct Planes {
         return data + channel * plane + static_cast<std::ptrdiff_t>(y - top) * stride;
     }
 };
+
+} // namespace Simulator

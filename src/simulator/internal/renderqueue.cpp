@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace Simulator {
+
 namespace {
 
 struct Queue : QThreadPool {
@@ -51,3 +53,5 @@ QThreadPool &thumbQueue()
 {
     return Queues::instance().thumbs;
 }
+
+} // namespace Simulator

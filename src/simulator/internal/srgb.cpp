@@ -4,6 +4,8 @@
 #include <bit>
 #include <cmath>
 
+namespace Simulator {
+
 namespace {
 
 constexpr std::uint32_t kLowBits = (1U << Srgb::ByteTable::kIntervalShift) - 1;
@@ -59,3 +61,5 @@ int Srgb::ByteTable::byteOf(float linear) const
     const auto low = static_cast<std::int32_t>(bits & kLowBits);
     return (entry >> kByteShift) + (low >= (entry & ((1 << kByteShift) - 1)) ? 1 : 0);
 }
+
+} // namespace Simulator

@@ -5,6 +5,8 @@
 #include <array>
 #include <cstdint>
 
+namespace Simulator {
+
 namespace Srgb {
 
 /// Linear light of an encoded value; both from 0 to 1.
@@ -44,3 +46,5 @@ private:
 };
 
 } // namespace Srgb
+
+} // namespace Simulator

@@ -15,6 +15,7 @@
 
 #ifndef HV_STREAK_LINE
 #define HV_STREAK_LINE
+namespace Simulator {
 namespace {
 
 // The line over whole pixels, and what remains at each end.
@@ -42,10 +43,11 @@ struct LineRow {
 };
 
 } // namespace
+} // namespace Simulator
 #endif
 
 HWY_BEFORE_NAMESPACE();
-namespace HWY_NAMESPACE {
+namespace Simulator::HWY_NAMESPACE {
 namespace {
 
 namespace hn = hwy::HWY_NAMESPACE;
@@ -141,10 +143,12 @@ HWY_ATTR void streakRow(const Line &line, const LineRow &row, float *out, int co
     meansOverLine(line, sums - row.before, out, count);
 }
 
-} // namespace HWY_NAMESPACE
+} // namespace Simulator::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
+
+namespace Simulator {
 
 HWY_EXPORT(streakRow);
 
@@ -177,5 +181,7 @@ void streak(const StreakSource &source, double halfLength, const Planes &out, in
         }
     });
 }
+
+} // namespace Simulator
 
 #endif

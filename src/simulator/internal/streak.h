@@ -5,6 +5,8 @@
 
 #include <QRect>
 
+namespace Simulator {
+
 class Parallel;
 
 /// Part of a picture on four planes; transparent outside, but for the frame's own edge pixels,
@@ -25,3 +27,5 @@ struct StreakSource {
 /// @pre halfLength > 0.
 void streak(const StreakSource &source, double halfLength, const Planes &out, int right,
     const Parallel &parallel);
+
+} // namespace Simulator

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace Simulator {
+
 template <typename T>
 T *GrowingBuffer<T>::atLeast(std::size_t count)
 {
@@ -43,3 +45,5 @@ float *Workspace::floats(Use use, std::size_t count)
 {
     return m_buffers[use].atLeast(count);
 }
+
+} // namespace Simulator

@@ -7,6 +7,8 @@
 #include <array>
 #include <cstddef>
 
+namespace Simulator {
+
 /// Memory for so many numbers, aligned for vectors.
 template <typename T>
 class GrowingBuffer
@@ -49,3 +51,5 @@ public:
 private:
     std::array<GrowingBuffer<float>, kUses> m_buffers;
 };
+
+} // namespace Simulator
