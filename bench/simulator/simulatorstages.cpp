@@ -13,7 +13,7 @@
 #include "simulator/internal/parallel.h"
 #include "simulator/internal/srgb.h"
 #include "simulator/internal/streak.h"
-#include "simulator/internal/workspace.h"
+#include "simulator/internal/workingmemory.h"
 #include "simulator/sceneart.h"
 #include "simulator/scenerenderer.h"
 
@@ -30,6 +30,8 @@
 #include <cstring>
 #include <string_view>
 #include <vector>
+
+using namespace Simulator;
 
 namespace {
 
@@ -134,7 +136,7 @@ void measureSteps(int threads)
     const Layer background(SceneArt::background(kWidth, kHeight), 3);
     const Layer subject(SceneArt::subject(kWidth, kHeight), 4);
     constexpr std::ptrdiff_t plane = std::ptrdiff_t{ kWidth } * kHeight;
-    const Canvas blurredBackground{ workspace.floats(Workspace::Background, 3 * plane), kWidth,
+    const Planes blurredBackground{ workspace.floats(Workspace::Background, 3 * plane), kWidth,
         plane, 0, 0 };
     for (const auto &[stage, radius] : { std::pair{ "disc/1.91", 1.91 }, { "disc/5", 5.0 },
              { "disc/20", 20.0 }, { "disc/45", 45.0 }, { "disc/90", 90.0 } }) {
@@ -145,9 +147,9 @@ void measureSteps(int threads)
 
     // A whole picture of four channels rather than the cyclist's small part of one.
     const Layer whole(SceneArt::background(kWidth, kHeight), 4);
-    const Canvas in{ const_cast<float *>(whole.row(0, 0)), whole.stride(),
+    const Planes in{ const_cast<float *>(whole.row(0, 0)), whole.stride(),
         std::ptrdiff_t{ whole.stride() } * kHeight, 0, 0 };
-    const Canvas smeared{ workspace.floats(Workspace::Streak, 4 * plane), kWidth, plane, 0, 0 };
+    const Planes smeared{ workspace.floats(Workspace::Streak, 4 * plane), kWidth, plane, 0, 0 };
     for (const auto &[stage, half] :
         { std::pair{ "line/2.5", 2.5 }, { "line/30", 30.0 }, { "line/288", 288.0 } }) {
         measure("program", stage, threads, [&, half = half] {

@@ -1,5 +1,7 @@
 #include "simulator/exposure.h"
 
+#include "simulator/numbertext.h"
+
 #include <cmath>
 #include <limits>
 #include <numbers>
@@ -124,7 +126,7 @@ QString Exposure::fLabel(double aperture)
 {
     Q_ASSERT(std::isfinite(aperture));
     const bool whole = aperture == std::floor(aperture);
-    return "f/"_L1 + QString::number(aperture, 'f', whole ? 0 : 1);
+    return "f/"_L1 + NumberText::fixed(aperture, whole ? 0 : 1);
 }
 
 QString Exposure::formatDistance(double distance)
@@ -133,7 +135,7 @@ QString Exposure::formatDistance(double distance)
         return u"infinity"_s;
     const double meters = distance / 1000;
     const int decimals = meters >= 100 ? 0 : meters >= 10 ? 1 : 2;
-    return QString::number(meters, 'f', decimals) + " m"_L1;
+    return NumberText::fixed(meters, decimals) + " m"_L1;
 }
 
 QString Exposure::formatStops(double count)
@@ -142,6 +144,6 @@ QString Exposure::formatStops(double count)
     const double size = std::abs(rounded);
     if (size < 0.05)
         return u"0 stops"_s;
-    return (rounded > 0 ? u"+"_s : u"−"_s) + QString::number(size, 'f', 1)
+    return (rounded > 0 ? u"+"_s : u"−"_s) + NumberText::fixed(size, 1)
         + (size == 1.0 ? " stop"_L1 : " stops"_L1);
 }

@@ -11,8 +11,7 @@
 // Values off the engraved scales are allowed; zero, negative numbers and NaN follow IEEE 754.
 #pragma once
 
-#include "simulator/sensorformat.h"
-#include "simulator/shutter.h"
+#include "simulator/scales.h"
 
 #include <QString>
 

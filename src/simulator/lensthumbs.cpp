@@ -10,17 +10,14 @@
 
 namespace {
 
-// Adds the pictures of the settings to those of `thumbs`; one that can't be rendered goes missing.
-QMap<double, QImage> rendered(const std::vector<SimSettings> &batch, QMap<double, QImage> thumbs)
+// One that can't be rendered goes missing.
+void addPicture(QMap<double, QImage> &thumbs, const SimSettings &settings)
 {
-    for (const SimSettings &settings : batch) {
-        const QImage image = LensThumbs::renderer().render(settings);
-        if (image.isNull())
-            thumbs.remove(settings.aperture);
-        else
-            thumbs.insert(settings.aperture, image);
-    }
-    return thumbs;
+    const QImage image = LensThumbs::renderer().render(settings);
+    if (image.isNull())
+        thumbs.remove(settings.aperture);
+    else
+        thumbs.insert(settings.aperture, image);
 }
 
 } // namespace
@@ -28,6 +25,11 @@ QMap<double, QImage> rendered(const std::vector<SimSettings> &batch, QMap<double
 LensThumbs::LensThumbs(QObject *parent)
     : QObject(parent)
 { }
+
+LensThumbs::~LensThumbs()
+{
+    *m_latest = 0;
+}
 
 const SceneRenderer &LensThumbs::renderer()
 {
@@ -43,18 +45,27 @@ void LensThumbs::renderThumbs(
     for (const LensLabRow &row : rows)
         batch.push_back(LensLab::settings(row, conditions));
 
+    const quint64 number = ++*m_latest;
     if (PreviewRenderer::isSynchronous()) {
-        m_thumbs = rendered(batch, m_thumbs);
+        for (const SimSettings &settings : batch)
+            addPicture(m_thumbs, settings);
         Q_EMIT thumbsChanged();
         return;
     }
-    renderQueue().start([self = QPointer(this), batch = std::move(batch)] {
-        const QMap<double, QImage> thumbs = rendered(batch, {});
-        QMetaObject::invokeMethod(QCoreApplication::instance(), [self, thumbs] {
-            if (!self)
-                return;
-            self->m_thumbs = thumbs;
-            Q_EMIT self->thumbsChanged();
+    Simulator::thumbQueue().start(
+        [self = QPointer(this), latest = m_latest, number, batch = std::move(batch)] {
+            QMap<double, QImage> thumbs;
+            for (const SimSettings &settings : batch) {
+                if (*latest != number)
+                    return;
+                addPicture(thumbs, settings);
+            }
+            QMetaObject::invokeMethod(QCoreApplication::instance(), [self, number, thumbs] {
+                // Compared once more where the number is also written: now it can't change.
+                if (!self || *self->m_latest != number)
+                    return;
+                self->m_thumbs = thumbs;
+                Q_EMIT self->thumbsChanged();
+            });
         });
-    });
 }

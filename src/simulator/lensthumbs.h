@@ -7,16 +7,21 @@
 #include <QMap>
 #include <QObject>
 
+#include <atomic>
+#include <memory>
+
 class SceneRenderer;
 
 /// Renders a picture for each row of a comparison. Lives on the main thread, where `thumbs` changes
-/// in one step when all pictures of a run are there. Runs may overlap; the last to finish stays.
+/// in one step when all pictures of a set are there. Only the set that was asked for last is shown;
+/// those before it are left out, or left unfinished.
 class LensThumbs : public QObject
 {
     Q_OBJECT
 
 public:
     explicit LensThumbs(QObject *parent = nullptr);
+    ~LensThumbs() override;
 
     /// Pictures by f-number.
     [[nodiscard]] const QMap<double, QImage> &thumbs() const { return m_thumbs; }
@@ -33,4 +38,8 @@ Q_SIGNALS:
 
 private:
     QMap<double, QImage> m_thumbs;
+
+    // The number of the last set asked for, from 1; 0 when nobody waits. Written on the main
+    // thread, read in the render thread too.
+    std::shared_ptr<std::atomic<quint64>> m_latest = std::make_shared<std::atomic<quint64>>(0);
 };

@@ -31,7 +31,7 @@ void PreviewRenderer::update(const SimSettings &settings, const SceneRenderer *r
         setImage(orShared(renderer).render(settings));
         return;
     }
-    renderQueue().start([self = QPointer(this), generation, settings, renderer] {
+    Simulator::previewQueue().start([self = QPointer(this), generation, settings, renderer] {
         const QImage image = orShared(renderer).render(settings);
         QMetaObject::invokeMethod(QCoreApplication::instance(), [self, generation, image] {
             // Compared where the counter is also written, on the main thread: no lock is needed.

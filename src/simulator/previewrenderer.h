@@ -10,9 +10,9 @@ class SceneRenderer;
 
 /// Renders in a thread of its own and shows the picture of the newest request.
 ///
-/// A render takes longer than a step of a slider, so requests queue up. Each is rendered, in order;
-/// a picture is shown only if nothing newer was asked for by the time it reaches the main thread.
-/// Lives on the main thread; `image` changes there alone.
+/// A render takes longer than a step of a slider, so requests queue up. Each is rendered, in order,
+/// until the application ends; a picture is shown only if nothing newer was asked for by the time
+/// it reaches the main thread. Lives on the main thread; `image` changes there alone.
 class PreviewRenderer : public QObject
 {
     Q_OBJECT

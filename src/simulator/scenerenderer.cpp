@@ -5,10 +5,9 @@
 #include "simulator/internal/grain.h"
 #include "simulator/internal/layer.h"
 #include "simulator/internal/parallel.h"
-#include "simulator/internal/scratch.h"
+#include "simulator/internal/planes.h"
 #include "simulator/internal/streak.h"
-#include "simulator/internal/vectors.h"
-#include "simulator/internal/workspace.h"
+#include "simulator/internal/workingmemory.h"
 #include "simulator/sceneart.h"
 
 #include <QColorSpace>
@@ -17,6 +16,8 @@
 #include <algorithm>
 #include <cmath>
 #include <mutex>
+
+using namespace Simulator;
 
 namespace {
 
@@ -113,7 +114,7 @@ private:
 namespace {
 
 // A layer as it stands, without a copy.
-Canvas asItStands(const Layer &layer)
+Planes asItStands(const Layer &layer)
 {
     return { .data = const_cast<float *>(layer.row(0, 0)),
         .stride = layer.stride(),
@@ -124,7 +125,7 @@ Canvas asItStands(const Layer &layer)
 
 // `memory` gives so many floats.
 template <typename Memory>
-Canvas canvasFor(const QRect &area, int channels, const Memory &memory)
+Planes planesFor(const QRect &area, int channels, const Memory &memory)
 {
     const int stride = wholeVectors(area.width());
     const std::ptrdiff_t plane = std::ptrdiff_t{ stride } * area.height();
@@ -135,17 +136,17 @@ Canvas canvasFor(const QRect &area, int channels, const Memory &memory)
         .top = area.top() };
 }
 
-Canvas canvasFor(const QRect &area, int channels, Workspace::Use use, Workspace &workspace)
+Planes planesFor(const QRect &area, int channels, Workspace::Use use, Workspace &workspace)
 {
-    return canvasFor(area, channels, [&](std::ptrdiff_t count) {
+    return planesFor(area, channels, [&](std::ptrdiff_t count) {
         return workspace.floats(use, static_cast<std::size_t>(count));
     });
 }
 
 // Of the calling thread, until it asks for the next one.
-Canvas passingCanvasFor(const QRect &area, int channels)
+Planes passingPlanesFor(const QRect &area, int channels)
 {
-    return canvasFor(area, channels, [](std::ptrdiff_t count) {
+    return planesFor(area, channels, [](std::ptrdiff_t count) {
         return Scratch::floats(Scratch::Band, static_cast<int>(count));
     });
 }
@@ -193,35 +194,35 @@ QImage SceneRenderer::picture(const SimSettings &settings, double sigma) const
     // Where the disc allows it, rows of the background are blurred just before they are developed,
     // so that they don't leave the processor's cache in between.
     const DiscBlur backgroundDisc(std::max(blurs.backgroundRadius, kLeastDisc / 2));
-    std::function<Canvas(int, int)> background;
+    std::function<Planes(int, int)> background;
     if (blurs.backgroundRadius == 0) {
         background = [this](int, int) { return asItStands(d->background); };
     } else if (backgroundDisc.sumsRowByRow()) {
         background = [&](int top, int bottom) {
             const QRect rows(0, top, d->size.width(), bottom - top);
-            const Canvas canvas = passingCanvasFor(rows, 3);
-            backgroundDisc.applyToRows(d->background, rows, canvas);
-            return canvas;
+            const Planes planes = passingPlanesFor(rows, 3);
+            backgroundDisc.applyToRows(d->background, rows, planes);
+            return planes;
         };
     } else {
-        const Canvas canvas = canvasFor(frame, 3, Workspace::Background, *workspace);
-        backgroundDisc.apply(d->background, frame, canvas, *workspace, d->parallel);
-        background = [canvas](int, int) { return canvas; };
+        const Planes planes = planesFor(frame, 3, Workspace::Background, *workspace);
+        backgroundDisc.apply(d->background, frame, planes, *workspace, d->parallel);
+        background = [planes](int, int) { return planes; };
     }
 
     // The cyclist fills a small part of the frame; only what light of it may reach is computed.
-    Canvas mover = asItStands(d->mover);
+    Planes mover = asItStands(d->mover);
     QRect area = widened(d->mover.bounds(), 0, 0, d->size);
     if (blurs.moverRadius > 0 && !area.isEmpty()) {
         const DiscBlur disc(blurs.moverRadius);
         area = widened(area, disc.reach(), disc.reach(), d->size);
-        mover = canvasFor(area, 4, Workspace::Mover, *workspace);
+        mover = planesFor(area, 4, Workspace::Mover, *workspace);
         disc.apply(d->mover, area, mover, *workspace, d->parallel);
     }
     if (blurs.moverHalfStreak > 0 && !area.isEmpty()) {
         const StreakSource source{ mover, area, d->size.width() };
         area = widened(area, static_cast<int>(std::ceil(blurs.moverHalfStreak)), 0, d->size);
-        mover = canvasFor(area, 4, Workspace::Streak, *workspace);
+        mover = planesFor(area, 4, Workspace::Streak, *workspace);
         streak(source, blurs.moverHalfStreak, mover, area.right() + 1, d->parallel);
     }
 

@@ -1,7 +1,7 @@
 // What the user has set on the simulated camera, and the scene in front of it.
 #pragma once
 
-#include "simulator/sensorformat.h"
+#include "simulator/scales.h"
 
 /// One state of the simulated camera and its scene. The lens is always focused on the subject, a
 /// person in the foreground; the background is the street behind, the mover a cyclist crossing

@@ -14,7 +14,7 @@
 
 #include "content/contentlibrary.h"
 #include "simulator/exposure.h"
-#include "simulator/lightlevel.h"
+#include "simulator/scales.h"
 #include "simulator/simsettings.h"
 #include "support/qtprinters.h"
 

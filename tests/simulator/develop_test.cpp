@@ -2,8 +2,8 @@
 #include "simulator/internal/grain.h"
 #include "simulator/internal/layer.h"
 #include "simulator/internal/parallel.h"
+#include "simulator/internal/planes.h"
 #include "simulator/internal/srgb.h"
-#include "simulator/internal/vectors.h"
 
 #include <gtest/gtest.h>
 
@@ -13,6 +13,8 @@
 #include <bit>
 #include <cmath>
 #include <limits>
+
+using namespace Simulator;
 
 TEST(Srgb, EncodesWhatItDecodes)
 {
@@ -120,7 +122,7 @@ TEST(Develop, EncodesEveryLightAsTheTableDoes)
     const auto light = hwy::AllocateAligned<float>(3 * kPlane);
     ASSERT_TRUE(light);
     std::fill_n(light.get(), 3 * kPlane, -1.0F);
-    const Canvas background{ light.get(), kStride, kPlane, 0, 0 };
+    const Planes background{ light.get(), kStride, kPlane, 0, 0 };
     std::uint32_t bits = kFirst;
     for (int y = 0; y < kHeight; ++y) {
         for (int x = 0; x < kWidth; ++x) {

@@ -1,5 +1,7 @@
 #include "simulator/exposure.h"
 
+#include "support/qtprinters.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -279,6 +281,7 @@ TEST(FLabel, HasADecimalOnlyWhereTheNumberHas)
     EXPECT_EQ(Exposure::fLabel(1.4), u"f/1.4"_s);
     EXPECT_EQ(Exposure::fLabel(1), u"f/1"_s);
     EXPECT_EQ(Exposure::fLabel(2.83), u"f/2.8"_s);
+    EXPECT_EQ(Exposure::fLabel(2.25), u"f/2.2"_s);
 }
 
 TEST(FormatDistance, LosesDecimalsWithDistance)
@@ -291,6 +294,14 @@ TEST(FormatDistance, LosesDecimalsWithDistance)
     EXPECT_EQ(Exposure::formatDistance(kInfinity), u"infinity"_s);
     EXPECT_EQ(Exposure::formatDistance(-kInfinity), u"infinity"_s);
     EXPECT_EQ(Exposure::formatDistance(0), u"0.00 m"_s);
+}
+
+TEST(FormatDistance, RoundsTiesToTheEvenDigit)
+{
+    EXPECT_EQ(Exposure::formatDistance(125), u"0.12 m"_s);
+    EXPECT_EQ(Exposure::formatDistance(375), u"0.38 m"_s);
+    EXPECT_EQ(Exposure::formatDistance(12250), u"12.2 m"_s);
+    EXPECT_EQ(Exposure::formatDistance(102500), u"102 m"_s);
 }
 
 TEST(FormatStops, HasASignAndAPlural)

@@ -36,8 +36,9 @@ PlainRenderer::Picture linear(const QImage &image)
     return picture;
 }
 
-// The area under the circle of radius r, above the x-axis and up to height h, from x0 to x1: by
-// Simpson's rule between the points where the integrand has a corner.
+// The area under the circle of radius r, above the x-axis and up to height h, from x0 to x1, which
+// are at least 0: a rectangle as far as the circle is higher than h, and from there on the circle's
+// integral, in closed form.
 double areaUnderCircle(double r, double h, double x0, double x1)
 {
     const auto height
@@ -46,7 +47,6 @@ double areaUnderCircle(double r, double h, double x0, double x1)
         x = std::clamp(x, -r, r);
         return (x * std::sqrt(r * r - x * x) + r * r * std::asin(x / r)) / 2;
     };
-    // Where the circle is higher than h the area is a rectangle.
     const double corner = h < r ? std::sqrt(r * r - h * h) : 0;
     const double flatEnd = std::clamp(corner, x0, x1);
     if (height(x0) == 0 && height(x1) == 0)

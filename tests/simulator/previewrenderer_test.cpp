@@ -1,13 +1,19 @@
-#include "simulator/lensthumbs.h"
 #include "simulator/previewrenderer.h"
+
+#include "simulator/internal/renderqueue.h"
+#include "simulator/lensthumbs.h"
 #include "simulator/scenerenderer.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QSemaphore>
 #include <QThread>
+#include <QThreadPool>
 #include <QTimer>
 
 #include <gtest/gtest.h>
+
+using namespace Simulator;
 
 namespace {
 
@@ -35,6 +41,28 @@ public:
     Synchronously &operator=(const Synchronously &) = delete;
 };
 
+// A queue whose turn never comes while the object lives.
+class Blocked
+{
+public:
+    explicit Blocked(QThreadPool &queue)
+        : m_queue(queue)
+    {
+        m_queue.start([this] { m_end.acquire(); });
+    }
+    ~Blocked()
+    {
+        m_end.release();
+        m_queue.waitForDone();
+    }
+    Blocked(const Blocked &) = delete;
+    Blocked &operator=(const Blocked &) = delete;
+
+private:
+    QThreadPool &m_queue;
+    QSemaphore m_end;
+};
+
 SimSettings bright()
 {
     SimSettings settings;
@@ -51,6 +79,11 @@ const SceneRenderer &smallRenderer()
 LensLab::Conditions conditions()
 {
     return { 50, SensorFormat::fullFrame(), 2.5, 15, 6, 1600 };
+}
+
+void renderThumbsOf(LensThumbs &thumbs, const std::vector<double> &apertures)
+{
+    thumbs.renderThumbs(LensLab::rows(apertures, conditions()), conditions());
 }
 
 } // namespace
@@ -106,6 +139,14 @@ TEST(PreviewRenderer, MayGoWhileItsWorkWaits)
     EXPECT_TRUE(waitFor(other, &PreviewRenderer::imageChanged));
 }
 
+TEST(PreviewRenderer, DoesNotWaitBehindThumbnails)
+{
+    const Blocked thumbnails(thumbQueue());
+    PreviewRenderer preview;
+    preview.update({}, &smallRenderer());
+    EXPECT_TRUE(waitFor(preview, &PreviewRenderer::imageChanged));
+}
+
 TEST(PreviewRenderer, HasThePictureAtOnceWhenSynchronous)
 {
     const Synchronously now;
@@ -121,6 +162,18 @@ TEST(PreviewRenderer, RendersTheLabsPictureByDefault)
     preview.update({});
     EXPECT_EQ(preview.image().size(), QSize(720, 450));
     EXPECT_EQ(preview.image(), SceneRenderer::shared().render({}));
+}
+
+TEST(PreviewQueue, DoesItsTasksInOrder)
+{
+    std::vector<int> done;
+    std::vector<int> expected;
+    for (int i = 0; i < 100; ++i) {
+        expected.push_back(i);
+        previewQueue().start([&done, i] { done.push_back(i); });
+    }
+    previewQueue().waitForDone();
+    EXPECT_EQ(done, expected);
 }
 
 TEST(LensThumbs, AppearAllAtOnce)
@@ -142,22 +195,79 @@ TEST(LensThumbs, AppearAllAtOnce)
 TEST(LensThumbs, ReplaceThoseOfAnEarlierComparison)
 {
     LensThumbs thumbs;
-    const std::vector<double> fast{ 1.4 };
-    const std::vector<double> slow{ 5.6 };
-    thumbs.renderThumbs(LensLab::rows(fast, conditions()), conditions());
+    renderThumbsOf(thumbs, { 1.4 });
     ASSERT_TRUE(waitFor(thumbs, &LensThumbs::thumbsChanged));
-    thumbs.renderThumbs(LensLab::rows(slow, conditions()), conditions());
+    renderThumbsOf(thumbs, { 5.6 });
     ASSERT_TRUE(waitFor(thumbs, &LensThumbs::thumbsChanged));
     EXPECT_EQ(thumbs.thumbs().keys(), QList<double>{ 5.6 });
+}
+
+TEST(LensThumbs, ShowOnlyTheSetThatWasAskedForLast)
+{
+    LensThumbs thumbs;
+    int changes = 0;
+    QObject::connect(&thumbs, &LensThumbs::thumbsChanged, [&changes] { ++changes; });
+    // The last set is the quickest: it would be there first if sets overtook each other.
+    renderThumbsOf(thumbs, { 1.2, 1.4, 1.8, 2, 2.8, 4 });
+    renderThumbsOf(thumbs, { 1.4, 2.8 });
+    renderThumbsOf(thumbs, { 5.6 });
+    ASSERT_TRUE(waitFor(thumbs, &LensThumbs::thumbsChanged));
+    EXPECT_EQ(thumbs.thumbs().keys(), QList<double>{ 5.6 });
+    thumbQueue().waitForDone();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(thumbs.thumbs().keys(), QList<double>{ 5.6 });
+}
+
+TEST(LensThumbs, OfTwoComparisonsDoNotDisturbEachOther)
+{
+    LensThumbs one;
+    LensThumbs other;
+    renderThumbsOf(one, { 1.4 });
+    renderThumbsOf(other, { 5.6 });
+    ASSERT_TRUE(waitFor(other, &LensThumbs::thumbsChanged));
+    EXPECT_EQ(one.thumbs().keys(), QList<double>{ 1.4 });
+    EXPECT_EQ(other.thumbs().keys(), QList<double>{ 5.6 });
+}
+
+TEST(LensThumbs, DoNotWaitBehindPreviews)
+{
+    const Blocked previews(previewQueue());
+    LensThumbs thumbs;
+    renderThumbsOf(thumbs, { 5.6 });
+    EXPECT_TRUE(waitFor(thumbs, &LensThumbs::thumbsChanged));
+}
+
+TEST(LensThumbs, MayGoWhileTheirWorkWaits)
+{
+    LensThumbs other;
+    {
+        const Blocked thumbnails(thumbQueue());
+        LensThumbs thumbs;
+        renderThumbsOf(thumbs, { 1.4 });
+        renderThumbsOf(other, { 5.6 });
+    }
+    EXPECT_TRUE(waitFor(other, &LensThumbs::thumbsChanged));
 }
 
 TEST(LensThumbs, JoinThoseThatAreThereWhenSynchronous)
 {
     const Synchronously now;
     LensThumbs thumbs;
-    const std::vector<double> fast{ 1.4 };
-    const std::vector<double> slow{ 5.6 };
-    thumbs.renderThumbs(LensLab::rows(fast, conditions()), conditions());
-    thumbs.renderThumbs(LensLab::rows(slow, conditions()), conditions());
+    renderThumbsOf(thumbs, { 1.4 });
+    renderThumbsOf(thumbs, { 5.6 });
     EXPECT_EQ(thumbs.thumbs().keys(), (QList<double>{ 1.4, 5.6 }));
+}
+
+TEST(LensThumbs, LeaveASetThatWaitsForOneMadeSynchronously)
+{
+    LensThumbs thumbs;
+    {
+        const Blocked thumbnails(thumbQueue());
+        renderThumbsOf(thumbs, { 1.4 });
+        const Synchronously now;
+        renderThumbsOf(thumbs, { 5.6 });
+    }
+    QCoreApplication::processEvents();
+    EXPECT_EQ(thumbs.thumbs().keys(), QList<double>{ 5.6 });
 }

@@ -1,6 +1,6 @@
+#include "simulator/scales.h"
+
 #include "simulator/exposure.h"
-#include "simulator/lightlevel.h"
-#include "simulator/shutter.h"
 
 #include "support/qtprinters.h"
 
@@ -39,6 +39,12 @@ TEST(Shutter, TurnsToFractionsBelowThreeTenths)
     EXPECT_EQ(Shutter{ 0.29 }.label(), u"1/3"_s);
     EXPECT_EQ(Shutter{ 0.25 }.label(), u"1/4"_s);
     EXPECT_EQ(Shutter{ 0.99 }.label(), u"0.10\""_s);
+}
+
+TEST(Shutter, RoundsTiesOfLongTimesToTheEvenDigit)
+{
+    EXPECT_EQ(Shutter{ 2.25 }.label(), u"2.2\""_s);
+    EXPECT_EQ(Shutter{ 2.75 }.label(), u"2.8\""_s);
 }
 
 TEST(Shutter, IsEqualBySeconds)

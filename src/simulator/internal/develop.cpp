@@ -7,8 +7,8 @@
 #include "simulator/internal/grain.h"
 #include "simulator/internal/layer.h"
 #include "simulator/internal/parallel.h"
+#include "simulator/internal/planes.h"
 #include "simulator/internal/srgb.h"
-#include "simulator/internal/vectors.h"
 
 #include <algorithm>
 #include <array>
@@ -19,6 +19,7 @@
 // One row of everything that makes a row of the picture. Pointers begin at column 0.
 #ifndef HV_DEVELOP_ROW
 #define HV_DEVELOP_ROW
+namespace Simulator {
 namespace {
 
 struct DevelopRow {
@@ -36,10 +37,11 @@ struct DevelopRow {
 };
 
 } // namespace
+} // namespace Simulator
 #endif
 
 HWY_BEFORE_NAMESPACE();
-namespace HWY_NAMESPACE {
+namespace Simulator::HWY_NAMESPACE {
 namespace {
 
 namespace hn = hwy::HWY_NAMESPACE;
@@ -61,7 +63,7 @@ HWY_ATTR HWY_INLINE void layOver(
 }
 
 // Bytes of linear light, by the table of Srgb::ByteTable; as whole numbers.
-HWY_ATTR HWY_INLINE Floats encodeByTable(Floats linear, const std::int32_t *table)
+HWY_ATTR HWY_INLINE Floats encoded(Floats linear, const std::int32_t *table)
 {
     using Table = Srgb::ByteTable;
     const Floats limited
@@ -74,48 +76,6 @@ HWY_ATTR HWY_INLINE Floats encodeByTable(Floats linear, const std::int32_t *tabl
     // A comparison that holds is −1 in every lane.
     const Ints more = hn::VecFromMask(kInts, hn::Not(hn::Lt(low, from)));
     return hn::ConvertTo(kFloats, hn::Sub(hn::ShiftRight<Table::kByteShift>(entry), more));
-}
-
-// 255 times the encoded value of linear light, to within Srgb::OctaveCurve::kError. Needs vectors
-// that hold a number for each octave, and isn't used with shorter ones.
-[[maybe_unused]] HWY_ATTR HWY_INLINE Floats curve(Floats linear, const float *octaves)
-{
-    using Curve = Srgb::OctaveCurve;
-    const Floats limited = hn::Min(hn::Max(linear, hn::Zero(kFloats)), hn::Set(kFloats, 1.0F));
-    const Ints bits = hn::BitCast(kInts, limited);
-    const Ints octave
-        = hn::And(hn::ShiftRight<Curve::kMantissaBits>(bits), hn::Set(kInts, Curve::kOctaves - 1));
-    const Floats scale
-        = hn::TableLookupLanes(hn::LoadU(kFloats, octaves), hn::IndicesFromVec(kFloats, octave));
-    const Floats mantissa = hn::BitCast(kFloats,
-        hn::Or(hn::And(bits, hn::Set(kInts, (1 << Curve::kMantissaBits) - 1)),
-            hn::BitCast(kInts, hn::Set(kFloats, 1.0F))));
-    Floats power = hn::Set(kFloats, Curve::kPower[0]);
-    for (std::size_t i = 1; i < Curve::kPower.size(); ++i)
-        power = hn::MulAdd(power, mantissa, hn::Set(kFloats, Curve::kPower[i]));
-    return hn::IfThenElse(hn::Lt(limited, hn::Set(kFloats, Curve::kLinearEnd)),
-        hn::Mul(limited, hn::Set(kFloats, Curve::kSlope)),
-        hn::MulAdd(scale, power, hn::Set(kFloats, Curve::kOffset)));
-}
-
-// The table's bytes. Long vectors compute the curve, which is quicker than gathering entries, and
-// leave to the table what is too close to call.
-HWY_ATTR HWY_INLINE void encode(
-    const Floats (&linear)[3], const std::int32_t *table, const float *octaves, Floats (&bytes)[3])
-{
-    using Curve = Srgb::OctaveCurve;
-    if constexpr (kLanes >= Curve::kOctaves) {
-        Floats farthest = hn::Zero(kFloats);
-        for (int channel = 0; channel < 3; ++channel) {
-            const Floats value = curve(linear[channel], octaves);
-            bytes[channel] = hn::Round(value);
-            farthest = hn::Max(farthest, hn::Abs(hn::Sub(value, bytes[channel])));
-        }
-        if (hn::AllFalse(kFloats, hn::Gt(farthest, hn::Set(kFloats, 0.5F - Curve::kError))))
-            return;
-    }
-    for (int channel = 0; channel < 3; ++channel)
-        bytes[channel] = encodeByTable(linear[channel], table);
 }
 
 // How far single precision may be from the exact value of a grainy byte before its rounding. The
@@ -221,7 +181,6 @@ HWY_ATTR HWY_INLINE Ints packed(const Floats (&bytes)[3])
 HWY_ATTR void developRow(const DevelopRow &row)
 {
     const std::int32_t *table = Srgb::ByteTable::instance().entries();
-    const float *octaves = Srgb::OctaveCurve::instance().octaves();
     const Floats gain = hn::Set(kFloats, row.gain);
     const bool grainy = row.sigma > 0.01;
     const Grain grain(*row.grain, row.sigma);
@@ -238,9 +197,8 @@ HWY_ATTR void developRow(const DevelopRow &row)
         if (x >= row.subjectBegin && x < row.subjectEnd)
             layOver(row.subject, x, red, green, blue);
 
-        const Floats linear[3] = { hn::Mul(red, gain), hn::Mul(green, gain), hn::Mul(blue, gain) };
-        Floats bytes[3];
-        encode(linear, table, octaves, bytes);
+        Floats bytes[3] = { encoded(hn::Mul(red, gain), table),
+            encoded(hn::Mul(green, gain), table), encoded(hn::Mul(blue, gain), table) };
         if (grainy)
             grain.add(bytes, noise, x, row.y, row.width);
 
@@ -256,10 +214,12 @@ HWY_ATTR void developRow(const DevelopRow &row)
     }
 }
 
-} // namespace HWY_NAMESPACE
+} // namespace Simulator::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
+
+namespace Simulator {
 
 HWY_EXPORT(developRow);
 
@@ -275,7 +235,7 @@ void develop(const Exposed &layers, double sigma, const GrainField &grain, QImag
     parallel.run(bands, [&](int band) {
         const int top = band * kRowsAtOnce;
         const int bottom = std::min(top + kRowsAtOnce, picture.height());
-        const Canvas background = layers.background(top, bottom);
+        const Planes background = layers.background(top, bottom);
         for (int y = top; y < bottom; ++y) {
             DevelopRow row{};
             row.y = y;
@@ -305,5 +265,7 @@ void develop(const Exposed &layers, double sigma, const GrainField &grain, QImag
         }
     });
 }
+
+} // namespace Simulator
 
 #endif

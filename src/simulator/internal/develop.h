@@ -1,12 +1,14 @@
 // From layers in linear light to the picture's bytes.
 #pragma once
 
-#include "simulator/internal/canvas.h"
+#include "simulator/internal/planes.h"
 
 #include <QImage>
 #include <QRect>
 
 #include <functional>
+
+namespace Simulator {
 
 class GrainField;
 class Layer;
@@ -16,8 +18,8 @@ class Parallel;
 struct Exposed {
     /// The rows from `top` to before `bottom`, of three channels; valid until the thread's next
     /// call.
-    std::function<Canvas(int top, int bottom)> background;
-    Canvas mover;    ///< four channels, where `moverArea` says
+    std::function<Planes(int top, int bottom)> background;
+    Planes mover;    ///< four channels, where `moverArea` says
     QRect moverArea; ///< the rest of the frame is transparent; may be empty
     const Layer *subject;
     float gain; ///< what linear light is multiplied with; NaN counts as 1
@@ -30,3 +32,5 @@ struct Exposed {
 /// withGrain() gives it; none is added up to 0.01, as it could not change a byte.
 void develop(const Exposed &layers, double sigma, const GrainField &grain, QImage &picture,
     const Parallel &parallel);
+
+} // namespace Simulator

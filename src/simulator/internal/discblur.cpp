@@ -8,15 +8,14 @@
 #include "simulator/internal/fourier.h"
 #include "simulator/internal/layer.h"
 #include "simulator/internal/parallel.h"
-#include "simulator/internal/scratch.h"
-#include "simulator/internal/vectors.h"
-#include "simulator/internal/workspace.h"
+#include "simulator/internal/planes.h"
+#include "simulator/internal/workingmemory.h"
 
 #include <algorithm>
 #include <type_traits>
 
 HWY_BEFORE_NAMESPACE();
-namespace HWY_NAMESPACE {
+namespace Simulator::HWY_NAMESPACE {
 namespace {
 
 namespace hn = hwy::HWY_NAMESPACE;
@@ -295,13 +294,13 @@ HWY_ATTR void sumAlongRim(const DiscBlur &disc, const Rows &rows, int top, int b
 } // namespace
 
 HWY_ATTR void blurRows(const DiscBlur &disc, const Layer &layer, int channel, const QRect &area,
-    int top, int bottom, const Canvas &canvas)
+    int top, int bottom, const Planes &planes)
 {
     const int width = wholeVectors(area.width());
     const Rows rows(layer, channel, area.left(), width);
-    float *out = canvas.row(channel, top);
+    float *out = planes.row(channel, top);
     const auto sum = [&]<int R>(std::integral_constant<int, R>) {
-        sumDirectly<R>(disc.kernel(), rows, top, bottom, width, out, canvas.stride);
+        sumDirectly<R>(disc.kernel(), rows, top, bottom, width, out, planes.stride);
     };
     switch (disc.reach()) {
     case 0:
@@ -327,14 +326,16 @@ HWY_ATTR void blurRows(const DiscBlur &disc, const Layer &layer, int channel, co
     for (int x = 0; x < width; x += kStrip) {
         const int stripWidth = std::min(kStrip, width - x);
         const Rows strip(layer, channel, area.left() + x, stripWidth);
-        sumAlongRim(disc, strip, top, bottom, stripWidth, out + x, canvas.stride);
+        sumAlongRim(disc, strip, top, bottom, stripWidth, out + x, planes.stride);
     }
 }
 
-} // namespace HWY_NAMESPACE
+} // namespace Simulator::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
+
+namespace Simulator {
 
 HWY_EXPORT(blurRows);
 
@@ -371,7 +372,7 @@ DiscBlur::DiscBlur(double radius)
     }
 }
 
-void DiscBlur::apply(const Layer &layer, const QRect &area, const Canvas &out, Workspace &workspace,
+void DiscBlur::apply(const Layer &layer, const QRect &area, const Planes &out, Workspace &workspace,
     const Parallel &parallel) const
 {
     if (reach() <= kLongestRimReach)
@@ -385,7 +386,7 @@ bool DiscBlur::sumsRowByRow() const
     return reach() <= kLongestDirectReach;
 }
 
-void DiscBlur::applyToRows(const Layer &layer, const QRect &rows, const Canvas &out) const
+void DiscBlur::applyToRows(const Layer &layer, const QRect &rows, const Planes &out) const
 {
     for (int channel = 0; channel < layer.channels(); ++channel) {
         HWY_DYNAMIC_DISPATCH(blurRows)
@@ -394,7 +395,7 @@ void DiscBlur::applyToRows(const Layer &layer, const QRect &rows, const Canvas &
 }
 
 void DiscBlur::applyInBands(
-    const Layer &layer, const QRect &area, const Canvas &out, const Parallel &parallel) const
+    const Layer &layer, const QRect &area, const Planes &out, const Parallel &parallel) const
 {
     const auto begin = [&area](int band) { return area.top() + band * area.height() / kBands; };
     parallel.run(kBands * layer.channels(), [&](int i) {
@@ -408,7 +409,7 @@ void DiscBlur::applyInBands(
 
 // Two planes go through a transform at once. An odd number of channels would leave one alone, so
 // that each is cut into a left and a right half.
-void DiscBlur::applyByTransform(const Layer &layer, const QRect &area, const Canvas &out,
+void DiscBlur::applyByTransform(const Layer &layer, const QRect &area, const Planes &out,
     Workspace &workspace, const Parallel &parallel) const
 {
     const int cuts = layer.channels() % 2 + 1;
@@ -431,5 +432,7 @@ void DiscBlur::applyByTransform(const Layer &layer, const QRect &area, const Can
     };
     torus.convolve(layer.channels() * cuts / 2, source, target, spectrum, kernel, parallel);
 }
+
+} // namespace Simulator
 
 #endif

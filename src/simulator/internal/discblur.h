@@ -1,12 +1,14 @@
 // Mean over a flat disc: how a defocused lens draws a point of light.
 #pragma once
 
-#include "simulator/internal/canvas.h"
 #include "simulator/internal/disckernel.h"
+#include "simulator/internal/planes.h"
 
 #include <QRect>
 
 #include <vector>
+
+namespace Simulator {
 
 class Layer;
 class Parallel;
@@ -15,7 +17,9 @@ class Workspace;
 /// A disc of one radius, ready to blur layers with.
 ///
 /// Beyond a layer's edge its edge pixel repeats. Every pixel's arithmetic is the same whatever the
-/// vectors' width and the number of threads, so that all machines give the same bytes.
+/// vectors' width and the number of threads, so that all machines give the same bytes. A layer of
+/// values up to 1 is blurred to within 10⁻⁶ of the exact mean with DiscKernel's weights; a uniform
+/// one comes back unchanged to 10⁻⁶.
 class DiscBlur
 {
 public:
@@ -30,7 +34,7 @@ public:
     /// A small disc is summed pixel by pixel. With a larger one each row is the row above plus the
     /// change at the disc's rim, which grows with its circumference only; large ones are convolved
     /// by way of their Fourier transforms, which costs the same for all of them.
-    void apply(const Layer &layer, const QRect &area, const Canvas &out, Workspace &workspace,
+    void apply(const Layer &layer, const QRect &area, const Planes &out, Workspace &workspace,
         const Parallel &parallel) const;
 
     /// Whether each row is summed for itself, so that rows can be blurred as they are needed.
@@ -39,7 +43,7 @@ public:
     /// Writes some rows of the layer, in the same way, on the calling thread.
     ///
     /// @pre sumsRowByRow().
-    void applyToRows(const Layer &layer, const QRect &rows, const Canvas &out) const;
+    void applyToRows(const Layer &layer, const QRect &rows, const Planes &out) const;
 
     /// The columns of the lower half of the disc's rim: by how much the mean over the disc changes
     /// from one row to the next for each difference between a row that the disc gains and the one
@@ -54,10 +58,12 @@ public:
 
 private:
     void applyInBands(
-        const Layer &layer, const QRect &area, const Canvas &out, const Parallel &parallel) const;
-    void applyByTransform(const Layer &layer, const QRect &area, const Canvas &out,
+        const Layer &layer, const QRect &area, const Planes &out, const Parallel &parallel) const;
+    void applyByTransform(const Layer &layer, const QRect &area, const Planes &out,
         Workspace &workspace, const Parallel &parallel) const;
 
     DiscKernel m_kernel;
     std::vector<RimColumn> m_rim; // one for each column from the center on
 };
+
+} // namespace Simulator

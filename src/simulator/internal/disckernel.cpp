@@ -4,6 +4,8 @@
 #include <cmath>
 #include <numbers>
 
+namespace Simulator {
+
 namespace {
 
 double square(double x)
@@ -78,3 +80,5 @@ double DiscKernel::weight(int dx, int dy) const
         return 0;
     return m_weights[static_cast<std::size_t>(dy * (m_reach + 1) + dx)];
 }
+
+} // namespace Simulator

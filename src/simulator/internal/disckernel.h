@@ -3,6 +3,8 @@
 
 #include <vector>
 
+namespace Simulator {
+
 /// How much of each pixel a disc covers, divided by the disc's area: the weights of a mean over it.
 ///
 /// The disc's center lies on a pixel's center. A weight is the exact area that disc and unit pixel
@@ -25,3 +27,5 @@ private:
     int m_reach;
     std::vector<double> m_weights; // a quadrant, row by row
 };
+
+} // namespace Simulator

@@ -6,7 +6,7 @@
 
 #include "simulator/internal/fourier.h"
 #include "simulator/internal/parallel.h"
-#include "simulator/internal/scratch.h"
+#include "simulator/internal/workingmemory.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,6 +18,7 @@
 
 #ifndef HV_FOURIER_BLOCKS
 #define HV_FOURIER_BLOCKS
+namespace Simulator {
 namespace {
 
 constexpr int kBlock = FourierConvolution::kBlock;
@@ -53,10 +54,11 @@ struct FourierTargets {
 };
 
 } // namespace
+} // namespace Simulator
 #endif
 
 HWY_BEFORE_NAMESPACE();
-namespace HWY_NAMESPACE {
+namespace Simulator::HWY_NAMESPACE {
 namespace {
 
 namespace hn = hwy::HWY_NAMESPACE;
@@ -554,10 +556,12 @@ HWY_ATTR void transformKernelColumns(
     }
 }
 
-} // namespace HWY_NAMESPACE
+} // namespace Simulator::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
+
+namespace Simulator {
 
 HWY_EXPORT(transformRows);
 HWY_EXPORT(transformRowsBack);
@@ -736,5 +740,7 @@ void FourierConvolution::convolve(int pairs, const Source &source, const Target 
         });
     }
 }
+
+} // namespace Simulator
 
 #endif

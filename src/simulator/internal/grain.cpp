@@ -1,11 +1,13 @@
 #include "simulator/internal/grain.h"
 
-#include "simulator/internal/vectors.h"
+#include "simulator/internal/planes.h"
 
 #include <QtGlobal>
 
 #include <algorithm>
 #include <cmath>
+
+namespace Simulator {
 
 double GrainGenerator::uniform()
 {
@@ -70,3 +72,5 @@ int withGrain(int byte, double brightness, double color, double sigma)
     const double value = std::round(sigma * color * 0.35 + (sigma * brightness + byte));
     return static_cast<int>(std::clamp(value, 0.0, 255.0));
 }
+
+} // namespace Simulator

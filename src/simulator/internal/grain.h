@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <vector>
 
+namespace Simulator {
+
 /// The generator of the grain, xorshift with 64 bits of state and the shifts 13, 7 and 17.
 /// Source: G. Marsaglia, "Xorshift RNGs", J. Stat. Softw. 8(14), 2003.
 class GrainGenerator
@@ -57,3 +59,5 @@ private:
 /// A byte with grain, in double precision: round(sigma · color · 0.35 + (sigma · brightness +
 /// byte)), halves away from zero, limited to 0 to 255. Sigma counts in steps of a byte.
 [[nodiscard]] int withGrain(int byte, double brightness, double color, double sigma);
+
+} // namespace Simulator

@@ -1,11 +1,13 @@
 #include "simulator/internal/layer.h"
 
+#include "simulator/internal/planes.h"
 #include "simulator/internal/srgb.h"
-#include "simulator/internal/vectors.h"
 
 #include <algorithm>
 #include <array>
 #include <utility>
+
+namespace Simulator {
 
 namespace {
 
@@ -91,3 +93,5 @@ float *Layer::writableRow(int channel, int y)
 {
     return const_cast<float *>(std::as_const(*this).row(channel, y));
 }
+
+} // namespace Simulator

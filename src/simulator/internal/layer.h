@@ -6,6 +6,8 @@
 
 #include <hwy/aligned_allocator.h>
 
+namespace Simulator {
+
 /// A layer in linear light with sRGB primaries: one plane of floats a channel, colors premultiplied
 /// by alpha, row 0 at the top. Beyond its ends a row goes on with its edge pixel, kMargin floats to
 /// each side and up to a whole number of vectors, so that a window over it needs no case for the
@@ -46,3 +48,5 @@ private:
     QRect m_bounds;
     hwy::AlignedFreeUniquePtr<float[]> m_data;
 };
+
+} // namespace Simulator

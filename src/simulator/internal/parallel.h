@@ -3,6 +3,8 @@
 
 #include <functional>
 
+namespace Simulator {
+
 /// Runs pieces of one job on several threads, the calling one among them. Which thread takes which
 /// piece is open, so a piece must depend on nothing that another one writes. May be used by several
 /// threads at once; a busy machine slows the job down and never blocks it.
@@ -15,8 +17,13 @@ public:
     { }
 
     /// Calls work(i) for each i from 0 to count − 1 and returns when all calls have returned.
+    ///
+    /// After a call that throws no other is begun; when those that were begun have returned, the
+    /// first exception is thrown on.
     void run(int count, const std::function<void(int)> &work) const;
 
 private:
     int m_threads;
 };
+
+} // namespace Simulator

@@ -5,15 +5,53 @@
 
 using namespace Qt::StringLiterals;
 
-QThreadPool &renderQueue()
+namespace Simulator {
+
+namespace {
+
+struct Queue : QThreadPool {
+    explicit Queue(const QString &name)
+    {
+        setObjectName(name);
+        setMaxThreadCount(1);
+    }
+};
+
+struct Queues {
+    Queue previews{ u"hv.render"_s };
+    Queue thumbs{ u"hv.thumbs"_s };
+
+    Queues()
+    {
+        // What has begun must not reach for an application that is gone.
+        qAddPostRoutine([] { instance().end(); });
+    }
+
+    void end()
+    {
+        previews.clear();
+        thumbs.clear();
+        previews.waitForDone();
+        thumbs.waitForDone();
+    }
+
+    static Queues &instance()
+    {
+        static Queues queues;
+        return queues;
+    }
+};
+
+} // namespace
+
+QThreadPool &previewQueue()
 {
-    static QThreadPool *const queue = [] {
-        static QThreadPool pool;
-        pool.setObjectName(u"hv.render"_s);
-        pool.setMaxThreadCount(1);
-        // What still waits must not reach for an application that is gone.
-        qAddPostRoutine([] { renderQueue().waitForDone(); });
-        return &pool;
-    }();
-    return *queue;
+    return Queues::instance().previews;
 }
+
+QThreadPool &thumbQueue()
+{
+    return Queues::instance().thumbs;
+}
+
+} // namespace Simulator

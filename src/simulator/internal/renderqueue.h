@@ -3,6 +3,16 @@
 
 class QThreadPool;
 
-/// One task at a time, in the order in which they were started. The application ends after the last
-/// of them. Not the global pool: the rasterizer hands its fills to that one and waits for them.
-[[nodiscard]] QThreadPool &renderQueue();
+namespace Simulator {
+
+// Queues of one task at a time, in the order in which they were started. When the application
+// ends, what hasn't begun is dropped, since nobody will see it, and what has begun is waited for.
+// Not the global pool: the rasterizer hands its fills to that one and waits for them.
+
+/// The queue of previews.
+[[nodiscard]] QThreadPool &previewQueue();
+
+/// The queue of thumbnails. Neither kind of picture waits behind a burst of the other.
+[[nodiscard]] QThreadPool &thumbQueue();
+
+} // namespace Simulator

@@ -4,6 +4,8 @@
 #include <bit>
 #include <cmath>
 
+namespace Simulator {
+
 namespace {
 
 constexpr std::uint32_t kLowBits = (1U << Srgb::ByteTable::kIntervalShift) - 1;
@@ -60,17 +62,4 @@ int Srgb::ByteTable::byteOf(float linear) const
     return (entry >> kByteShift) + (low >= (entry & ((1 << kByteShift) - 1)) ? 1 : 0);
 }
 
-Srgb::OctaveCurve::OctaveCurve()
-{
-    // The exponent is stored with 127 added; v = 1 begins the last octave.
-    for (int i = 0; i < kOctaves; ++i) {
-        m_octaves[static_cast<std::size_t>(i)]
-            = static_cast<float>(255 * 1.055 * std::exp2((i - (kOctaves - 1)) / 2.4));
-    }
-}
-
-const Srgb::OctaveCurve &Srgb::OctaveCurve::instance()
-{
-    static const OctaveCurve curve;
-    return curve;
-}
+} // namespace Simulator

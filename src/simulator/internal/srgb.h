@@ -5,6 +5,8 @@
 #include <array>
 #include <cstdint>
 
+namespace Simulator {
+
 namespace Srgb {
 
 /// Linear light of an encoded value; both from 0 to 1.
@@ -43,35 +45,6 @@ private:
     std::array<std::int32_t, kSize> m_entries;
 };
 
-/// 255 · encoded(v) by arithmetic. Beyond the linear part, and for v = 2ᵉ · m with m from 1 to 2,
-/// it is a number that belongs to the octave e, times m^(1/2.4), plus an offset.
-class OctaveCurve
-{
-public:
-    static constexpr int kMantissaBits = 23;
-    static constexpr int kOctaves = 16;
-
-    /// The polynomial next to m^(1/2.4) from 1 to 2, which it is within 1.4·10⁻⁶ of; the highest
-    /// power first.
-    static constexpr std::array kPower{ 0.005333087715F, -0.05065300231F, 0.2063171049F,
-        -0.4884633569F, 0.950479506F, 0.3769880262F };
-    static constexpr float kOffset = -0.055F * 255;
-    static constexpr float kLinearEnd = 0.0031308F;
-    static constexpr float kSlope = 12.92F * 255;
-
-    /// How far single precision may be from the exact value: 201 · 1.4·10⁻⁶ by the polynomial, the
-    /// rest by roundings.
-    static constexpr float kError = 4e-4F;
-
-    [[nodiscard]] static const OctaveCurve &instance();
-
-    /// The octaves' numbers, by the last four bits of a float's exponent.
-    [[nodiscard]] const float *octaves() const { return m_octaves.data(); }
-
-private:
-    OctaveCurve();
-
-    std::array<float, kOctaves> m_octaves;
-};
-
 } // namespace Srgb
+
+} // namespace Simulator

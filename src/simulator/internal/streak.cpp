@@ -6,8 +6,8 @@
 #include "simulator/internal/streak.h"
 
 #include "simulator/internal/parallel.h"
-#include "simulator/internal/scratch.h"
-#include "simulator/internal/vectors.h"
+#include "simulator/internal/planes.h"
+#include "simulator/internal/workingmemory.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,6 +15,7 @@
 
 #ifndef HV_STREAK_LINE
 #define HV_STREAK_LINE
+namespace Simulator {
 namespace {
 
 // The line over whole pixels, and what remains at each end.
@@ -42,10 +43,11 @@ struct LineRow {
 };
 
 } // namespace
+} // namespace Simulator
 #endif
 
 HWY_BEFORE_NAMESPACE();
-namespace HWY_NAMESPACE {
+namespace Simulator::HWY_NAMESPACE {
 namespace {
 
 namespace hn = hwy::HWY_NAMESPACE;
@@ -141,14 +143,16 @@ HWY_ATTR void streakRow(const Line &line, const LineRow &row, float *out, int co
     meansOverLine(line, sums - row.before, out, count);
 }
 
-} // namespace HWY_NAMESPACE
+} // namespace Simulator::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
 
 #if HWY_ONCE
 
+namespace Simulator {
+
 HWY_EXPORT(streakRow);
 
-void streak(const StreakSource &source, double halfLength, const Canvas &out, int right,
+void streak(const StreakSource &source, double halfLength, const Planes &out, int right,
     const Parallel &parallel)
 {
     constexpr int kRowsAtOnce = 8;
@@ -165,7 +169,7 @@ void streak(const StreakSource &source, double halfLength, const Canvas &out, in
         const int bottom = std::min(top + kRowsAtOnce, source.area.bottom() + 1);
         for (int y = top; y < bottom; ++y) {
             for (int channel = 0; channel < StreakSource::kChannels; ++channel) {
-                const float *pixels = source.canvas.row(channel, y) - source.canvas.left;
+                const float *pixels = source.planes.row(channel, y) - source.planes.left;
                 const LineRow row{ .pixels = pixels + first + begin,
                     .count = end - begin,
                     .before = begin,
@@ -177,5 +181,7 @@ void streak(const StreakSource &source, double halfLength, const Canvas &out, in
         }
     });
 }
+
+} // namespace Simulator
 
 #endif

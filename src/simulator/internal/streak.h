@@ -1,9 +1,11 @@
 // Mean along a horizontal line: how an open shutter draws what moves across the frame.
 #pragma once
 
-#include "simulator/internal/canvas.h"
+#include "simulator/internal/planes.h"
 
 #include <QRect>
+
+namespace Simulator {
 
 class Parallel;
 
@@ -12,8 +14,8 @@ class Parallel;
 struct StreakSource {
     static constexpr int kChannels = 4;
 
-    Canvas canvas;
-    QRect area; ///< where the canvas holds pixels; may pass the frame's right edge
+    Planes planes;
+    QRect area; ///< where the planes hold pixels; may pass the frame's right edge
     int frameWidth;
 };
 
@@ -23,5 +25,7 @@ struct StreakSource {
 /// precision, and the work doesn't grow with the length.
 ///
 /// @pre halfLength > 0.
-void streak(const StreakSource &source, double halfLength, const Canvas &out, int right,
+void streak(const StreakSource &source, double halfLength, const Planes &out, int right,
     const Parallel &parallel);
+
+} // namespace Simulator
