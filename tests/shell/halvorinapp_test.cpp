@@ -3,17 +3,14 @@
 #include "shell/launch/halvorinapp.h"
 
 #include "shell/launch/singleinstance.h"
-#include "shell/setup.h"
 #include "store/storetesting.h"
 #include "support/environment.h"
 #include "support/testcourse.h"
 
-#include <QQuickItem>
 #include <QTimer>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
 #include <memory>
 
@@ -94,61 +91,7 @@ protected:
     QWindow another;
 };
 
-// The texts in `item` that a person sees.
-QList<QQuickItem *> shownTexts(QQuickItem *item)
-{
-    QList<QQuickItem *> texts;
-    if (!item->isVisible())
-        return texts;
-    if (item->inherits("QQuickText") && !item->property("text").toString().isEmpty())
-        texts.append(item);
-    for (QQuickItem *child : item->childItems())
-        texts.append(shownTexts(child));
-    return texts;
-}
-
-// A component is known by the name of its file.
-QQuickItem *part(QQuickItem *root, QByteArrayView name)
-{
-    if (QByteArrayView(root->metaObject()->className()).startsWith(name))
-        return root;
-    for (QQuickItem *child : root->childItems()) {
-        if (QQuickItem *found = part(child, name))
-            return found;
-    }
-    return nullptr;
-}
-
 } // namespace
-
-TEST_F(HalvorinAppTest, KnowsTheFontsOfItsFirstScreenBeforehand)
-{
-    QQuickItem *camera = part(window().contentItem(), "MainWindow_");
-    ASSERT_TRUE(camera);
-    const QList<QQuickItem *> texts = shownTexts(camera);
-    EXPECT_GT(texts.size(), 20);
-    const QList<QFont> fonts = HVSetup::firstFonts();
-    for (const QQuickItem *text : texts) {
-        const QFont worn = text->property("font").value<QFont>();
-        const bool known = std::ranges::any_of(fonts, [&worn](const QFont &font) {
-            return font.family() == worn.family() && font.pointSizeF() == worn.pointSizeF()
-                && font.weight() == worn.weight();
-        });
-        EXPECT_TRUE(known) << qPrintable(text->property("text").toString()) << " in "
-                           << qPrintable(worn.toString());
-    }
-}
-
-TEST_F(HalvorinAppTest, KnowsTheCameraOfItsFirstScreenBeforehand)
-{
-    const QQuickItem *body = part(window().contentItem(), "CameraBodyBackground");
-    const QQuickItem *glass = part(window().contentItem(), "DisplayGlass");
-    ASSERT_TRUE(body && glass);
-    const Housing::Body known = HVSetup::firstBody(1, HVColors());
-    EXPECT_EQ(body->size(), QSizeF(known.size));
-    EXPECT_EQ(body->property("display").toRectF(), known.display);
-    EXPECT_EQ(glass->size(), QSizeF(HVSetup::firstGlass(1, HVColors()).size));
-}
 
 TEST_F(HalvorinAppTest, ShowsOneWindowUnderTheProgramsName)
 {

@@ -1,7 +1,6 @@
 #include "shell/launch/halvorinapp.h"
 
 #include "kit/fonts.h"
-#include "kit/zoom.h"
 #include "selfcheck/diagramsheet.h"
 #include "selfcheck/snapshot.h"
 #include "shell/info.h"
@@ -11,16 +10,11 @@
 #include "shell/setup.h"
 #include "store/userstore.h"
 
+#include <QEventLoop>
 #include <QQmlComponent>
 #include <QTextStream>
 
 #include <future>
-
-#ifdef __GLIBC__
-#include <cstdlib>
-#include <malloc.h>
-#include <sys/mman.h>
-#endif
 
 using namespace Qt::StringLiterals;
 
@@ -72,46 +66,15 @@ QStringList argumentList(int argc, char **argv)
     return arguments;
 }
 
-// Answers the engine until it has read all types. Once the typeface is known, the first screen's
-// fonts are opened in between, one at a time: no question waits long. Nothing of ours is in the
-// event loop yet.
-void letEngineRead(const QQmlComponent &component, const std::shared_future<QFont> &typeface)
+// Answers the engine, which asks this thread now and then, until it has read all types. Nothing of
+// ours is in the event loop yet.
+void waitUntilRead(const QQmlComponent &component)
 {
-    using namespace std::chrono_literals;
-
-    std::optional<QList<QFont>> fonts;
-    while (component.isLoading()) {
-        if (!fonts && typeface.wait_for(0s) == std::future_status::ready)
-            fonts = HVSetup::firstFonts();
-        const bool opensFonts = fonts && !fonts->isEmpty();
-        QCoreApplication::processEvents(
-            opensFonts ? QEventLoop::AllEvents : QEventLoop::WaitForMoreEvents);
-        if (opensFonts)
-            Fonts::ensureOpen(fonts->takeFirst());
-    }
+    QEventLoop loop;
+    QObject::connect(&component, &QQmlComponent::statusChanged, &loop, &QEventLoop::quit);
+    if (component.isLoading())
+        loop.exec();
 }
-
-#ifdef __GLIBC__
-// What a start takes from the heap arrives in large steps.
-void prepareHeap()
-{
-    // The heap of a thread grows a page at a time unless told otherwise: hundreds of calls of the
-    // system while the window's types are read. Setting the step fixes the other two limits, which
-    // else follow use; these are where they end up.
-    mallopt(M_TOP_PAD, 4 * 1024 * 1024);
-    mallopt(M_MMAP_THRESHOLD, 32 * 1024 * 1024);
-    mallopt(M_TRIM_THRESHOLD, 64 * 1024 * 1024);
-
-    // Objects and pictures touch some 16 MB on the main thread before the first frame. In huge
-    // pages that takes a third of all page faults away. Given back, the memory stays the heap's.
-    constexpr std::size_t kHugePage = 2 * 1024 * 1024;
-    constexpr std::size_t kTouched = 8 * kHugePage;
-    if (void *heap = std::aligned_alloc(kHugePage, kTouched)) {
-        madvise(heap, kTouched, MADV_HUGEPAGE);
-        std::free(heap);
-    }
-}
-#endif
 
 } // namespace
 
@@ -119,10 +82,6 @@ void HalvorinApp::prepareEnvironment()
 {
     // One design point is one logical pixel, on every desktop.
     qputenv("QT_FONT_DPI", "72");
-
-#ifdef __GLIBC__
-    prepareHeap();
-#endif
 }
 
 HalvorinApp::HalvorinApp(int &argc, char **argv)
@@ -151,15 +110,6 @@ void HalvorinApp::start(int &argc, char **argv)
     QObject::connect(m_instance.get(), &SingleInstance::called, m_application.get(),
         [this](const QByteArray &token) { bringToFront(token); });
 
-    // The engine reads the window's types in a thread of its own, which now and then waits for an
-    // answer of this one. The typeface is found beside them, then the course is read: with more
-    // threads than that each would wait for a processor.
-    const std::shared_future<QFont> typeface
-        = std::async(std::launch::async, [] { return Fonts::rounded(12.5); });
-    const std::future<void> course = std::async(std::launch::async, [typeface] {
-        typeface.wait();
-        HVSetup::prepareCourse();
-    });
     HVSetup::configure();
     m_engine = std::make_unique<QQmlEngine>();
     m_engine->addImportPath(u":/qt/qml"_s);
@@ -167,29 +117,21 @@ void HalvorinApp::start(int &argc, char **argv)
         &QCoreApplication::quit, Qt::QueuedConnection);
     QQmlComponent component(m_engine.get(),
         QUrl(u"qrc:/qt/qml/Halvorin/Window/HalvorinWindow.qml"_s), QQmlComponent::Asynchronous);
+    // The engine reads the window's types in a thread of its own, another reads the course.
+    const std::future<void> course = std::async(std::launch::async, HVSetup::prepareCourse);
     SceneGraph::choose();
-    letEngineRead(component, typeface);
-    QGuiApplication::setFont(typeface.get());
+    QGuiApplication::setFont(Fonts::rounded(12.5));
+    waitUntilRead(component);
 
     // Only now: that loop would swallow the request, and until here there is nothing to bring home.
     quitOnTerminationSignals();
     HVSetup::openStore();
     course.wait();
 
-    // All but this thread would be idle from here on.
-    if (CNZoom::value() == 1) {
-        const double ratio = m_application->devicePixelRatio();
-        Housing::startAhead(
-            HVSetup::firstBody(ratio, HVColors()), HVSetup::firstGlass(ratio, HVColors()));
-    }
-
     m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
     if (!m_window)
         qFatal("The window could not be built: %s", qPrintable(component.errorString()));
-    const auto afterFirstFrame = [this] {
-        Housing::forgetAhead();
-        m_indexing = HVSetup::indexCourse();
-    };
+    const auto afterFirstFrame = [this] { m_indexing = HVSetup::indexCourse(); };
     QObject::connect(m_window.get(), &QQuickWindow::frameSwapped, m_application.get(),
         afterFirstFrame, Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     m_window->show();
