@@ -100,6 +100,11 @@ TEST_F(HalvorinAppTest, ShowsOneWindowUnderTheProgramsName)
     EXPECT_EQ(QGuiApplication::applicationDisplayName(), u"CRVN Halvorin"_s);
 }
 
+TEST_F(HalvorinAppTest, LoadsNoGLForAWindowThatIsDrawnWithoutIt)
+{
+    EXPECT_FALSE(QCoreApplication::testAttribute(Qt::AA_ShareOpenGLContexts));
+}
+
 TEST_F(HalvorinAppTest, EndsWhenItsOnlyWindowIsClosed)
 {
     QTimer::singleShot(0, &window(), &QWindow::close);

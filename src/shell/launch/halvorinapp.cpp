@@ -93,8 +93,7 @@ HalvorinApp::HalvorinApp(int &argc, char **argv)
 
 void HalvorinApp::start(int &argc, char **argv)
 {
-    // The video player's engine shares its GL context with the window.
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    SceneGraph::prepare();
     m_application = std::make_unique<QGuiApplication>(argc, argv);
     QCoreApplication::setApplicationName(HVInfo::appName);
     QGuiApplication::setApplicationDisplayName(HVInfo::appName);
