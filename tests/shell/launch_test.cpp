@@ -210,6 +210,19 @@ INSTANTIATE_TEST_SUITE_P(
         }
     });
 
+TEST_F(Launch, OutlivesItsTerminalIfItWasStartedTo)
+{
+    // given
+    Program program(home, {}, [] { std::signal(SIGHUP, SIG_IGN); });
+    ASSERT_TRUE(program.waitUntilItAnswers());
+    EXPECT_FALSE(program.handles(SIGHUP));
+    // when
+    program.send(SIGHUP);
+    // then
+    EXPECT_TRUE(program.waitUntilItAnswers());
+    expectToRunAndEnd(program);
+}
+
 TEST_F(Launch, EndsWhenAskedBeforeItHasAWindow)
 {
     // given: a launch that has just got ready for the request
