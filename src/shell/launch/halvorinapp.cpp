@@ -102,6 +102,7 @@ void HalvorinApp::start(int &argc, char **argv)
 
     m_instance = std::make_unique<SingleInstance>();
     if (!m_instance->isFirst()) {
+    if (!m_instance->isFirst())
         m_instance->callFirst(qgetenv("XDG_ACTIVATION_TOKEN"));
         m_status = 0;
         return;
