@@ -188,7 +188,7 @@ std::unique_ptr<UserStore> openProgressFile(const QUrl &url)
 {
     const QFileInfo info(url.toLocalFile());
     // SQLite follows a link and has the companions beside the file that it leads to.
-    const QString path = info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
+    const QString path = info.exists() ? info.canonicalFilePath() : info.filePath();
     requireWritableFiles(path);
 
     // In this order: a process that is just creating the file writes to it before it has a "-wal".

@@ -324,6 +324,22 @@ TEST_F(HVSetupOpenStore, StartsANewFileInTheDataFolderWhenAFileElsewhereIsDamage
     EXPECT_EQ(messages, QStringList(couldNotBeOpened(u"file is not a database"_s, elsewhere)));
 }
 
+TEST_F(HVSetupOpenStore, LeavesADatabaseWhoseNameBeginsWithAColonUntouched)
+{
+    // given: one that is refused, in the working folder
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir().mkpath(home.path(u"work"_s)) && QDir::setCurrent(home.path(u"work"_s)));
+    SQLiteDB(QDir::currentPath() + u"/:mine.sqlite"_s).exec(u"CREATE TABLE notes (text)"_s);
+    const Fingerprint untouched = fingerprint(home.path(u"work"_s));
+    const EnvironmentVariable path("HV_DB_PATH", u":mine.sqlite"_s);
+    // when
+    launch();
+    QDir::setCurrent(before);
+    // then
+    EXPECT_EQ(fingerprint(home.path(u"work"_s)), untouched);
+    expectAStopgap();
+}
+
 TEST_F(HVSetupOpenStore, CallsTheNewFileByTheSecondOfTheLaunch)
 {
     putTextFile(progressFile());

@@ -508,6 +508,37 @@ TEST_F(OpenProgressFile, MakesTheFileThatALinkLeadsTo)
     EXPECT_EQ(fingerprint(elsewhere.path()).keys(), QStringList{ u"Real.sqlite"_s });
 }
 
+TEST_F(OpenProgressFile, OpensWhatStandsBesideTheFolderThatALinkLeadsTo)
+{
+    const Folder elsewhere;
+    ASSERT_TRUE(QDir(elsewhere.path()).mkdir(u"inside"_s));
+    ASSERT_TRUE(QFile::link(elsewhere.path(u"inside"_s), folder.path(u"link"_s)));
+    makeOurs(elsewhere.path(kName));
+    EXPECT_EQ(openProgressFile(folder.url(u"link/../"_s + kName))->notes().size(), 20);
+}
+
+TEST_F(OpenProgressFile, LeavesWhatStandsBesideTheFolderThatALinkLeadsToUntouched)
+{
+    const Folder elsewhere;
+    ASSERT_TRUE(QDir(elsewhere.path()).mkdir(u"inside"_s));
+    ASSERT_TRUE(QFile::link(elsewhere.path(u"inside"_s), folder.path(u"link"_s)));
+    writeFile(elsewhere.path(kName + u"-wal"_s), "all that is left of a progress file");
+    const Fingerprint before = fingerprint(elsewhere.path());
+    EXPECT_TRUE(errorOf(
+        [&] { static_cast<void>(openProgressFile(folder.url(u"link/../"_s + kName))); }));
+    EXPECT_EQ(fingerprint(elsewhere.path()), before);
+}
+
+TEST_F(OpenProgressFile, MakesANewFileWithItsFoldersBesideTheFolderThatALinkLeadsTo)
+{
+    const Folder elsewhere;
+    ASSERT_TRUE(QDir(elsewhere.path()).mkdir(u"inside"_s));
+    ASSERT_TRUE(QFile::link(elsewhere.path(u"inside"_s), folder.path(u"link"_s)));
+    EXPECT_NE(openProgressFile(folder.url(u"link/../new/Progress.sqlite"_s)), nullptr);
+    EXPECT_TRUE(QFileInfo::exists(elsewhere.path(u"new/Progress.sqlite"_s)));
+    EXPECT_FALSE(QFileInfo::exists(folder.path(u"new"_s)));
+}
+
 TEST_F(OpenProgressFile, RehearsesBesideTheFileWhereTheTemporaryFolderIsMissing)
 {
     const EnvironmentVariable missing("TMPDIR", scratch.path(u"missing"_s));
