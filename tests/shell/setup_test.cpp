@@ -8,6 +8,7 @@
 #include "store/storetesting.h"
 #include "store/userstore.h"
 #include "support/environment.h"
+#include "support/filesizelimit.h"
 #include "support/ordinaryuser.h"
 #include "support/testcourse.h"
 
@@ -322,6 +323,24 @@ TEST_F(HVSetupOpenStore, StartsANewFileInTheDataFolderWhenAFileElsewhereIsDamage
     expectAStopgap();
     EXPECT_EQ(fingerprint(home.path(u"elsewhere"_s)), before);
     EXPECT_EQ(messages, QStringList(couldNotBeOpened(u"file is not a database"_s, elsewhere)));
+}
+
+TEST_F(HVSetupOpenStore, LeavesNothingOnADiskWithoutRoom)
+{
+    // given: a sound file, and no room for the index that SQLite keeps beside an open one
+    HVSetup::openStore();
+    UserStore::setShared(nullptr);
+    const Fingerprint before = fingerprint(dataFolder());
+    // when
+    {
+        const FileSizeLimit limit(16 * 1024);
+        HVSetup::openStore();
+    }
+    letEventLoopRun();
+    // then
+    EXPECT_EQ(UserStore::shared(), nullptr);
+    EXPECT_EQ(messages, QStringList(couldNotBeOpened(u"disk I/O error"_s, progressFile())));
+    EXPECT_EQ(fingerprint(dataFolder()), before);
 }
 
 TEST_F(HVSetupOpenStore, LeavesADatabaseWhoseNameBeginsWithAColonUntouched)
