@@ -138,13 +138,13 @@ protected:
 };
 
 const QString kNoCourse = u"Some course files could not be read: "
-                          "course.txt: The file can't be found.; "
-                          "quizzes.txt: The file can't be found.; "
-                          "gear.txt: The file can't be found.; "
-                          "timeline.txt: The file can't be found.; "
-                          "videos.tsv: The file can't be found.; "
-                          "software.txt: The file can't be found.; "
-                          "workflows.txt: The file can't be found."_s;
+                          "course.txt: the file can't be found; "
+                          "quizzes.txt: the file can't be found; "
+                          "gear.txt: the file can't be found; "
+                          "timeline.txt: the file can't be found; "
+                          "videos.tsv: the file can't be found; "
+                          "software.txt: the file can't be found; "
+                          "workflows.txt: the file can't be found"_s;
 
 } // namespace
 
@@ -464,8 +464,8 @@ TEST_F(HVSetupOpenStore, NamesOnlyTheCourseFilesThatCanNotBeRead)
     const EnvironmentVariable partial("HV_CONTENT", home.path(u"partial"_s));
     launch();
     EXPECT_EQ(messages,
-        QStringList(u"Some course files could not be read: gear.txt: The file can't be found.; "
-                    "software.txt: The file isn't valid UTF-8 text."_s));
+        QStringList(u"Some course files could not be read: gear.txt: the file can't be found; "
+                    "software.txt: the file isn't valid UTF-8 text"_s));
 }
 
 TEST_F(HVSetupOpenStore, OpensTheProgressFileWhateverTheCourseIsLike)
