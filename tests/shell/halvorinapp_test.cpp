@@ -7,6 +7,7 @@
 #include "support/environment.h"
 #include "support/testcourse.h"
 
+#include <QScreen>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -40,7 +41,6 @@ public:
     Machine()
     {
         TestCourse::write(m_home.path(u"course"_s));
-        HalvorinApp::prepareEnvironment();
         m_app = std::make_unique<HalvorinApp>(m_argc, m_argv);
     }
 
@@ -65,7 +65,8 @@ private:
     EnvironmentVariable m_config{ "XDG_CONFIG_HOME", m_home.path(u"config"_s) };
     EnvironmentVariable m_runtime{ "XDG_RUNTIME_DIR", m_home.path() };
     EnvironmentVariable m_database{ "HV_DB_PATH", std::nullopt };
-    EnvironmentVariable m_token{ "XDG_ACTIVATION_TOKEN", std::nullopt };
+    EnvironmentVariable m_token{ "XDG_ACTIVATION_TOKEN", u"token-of-the-launch"_s };
+    EnvironmentVariable m_fontResolution{ "QT_FONT_DPI", u"120"_s };
     EnvironmentVariable m_content{ "HV_CONTENT", m_home.path(u"course"_s) };
     int m_argc = 1;
     char m_name[9] = "halvorin";
@@ -104,6 +105,17 @@ TEST_F(HalvorinAppTest, ShowsOneWindowUnderTheProgramsName)
     EXPECT_EQ(QGuiApplication::applicationDisplayName(), u"CRVN Halvorin"_s);
 }
 
+TEST_F(HalvorinAppTest, CountsADesignPointAsAPixelOfTheDesktop)
+{
+    EXPECT_EQ(QGuiApplication::primaryScreen()->logicalDotsPerInch(), 72);
+}
+
+TEST_F(HalvorinAppTest, LeavesTheEnvironmentToProgramsThatItStartsAsItsUserHasSetIt)
+{
+    EXPECT_TRUE(waitUntil([] { return qgetenv("QT_FONT_DPI") == "120"; }));
+    EXPECT_FALSE(qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"));
+}
+
 TEST_F(HalvorinAppTest, LoadsNoGLForAWindowThatIsDrawnWithoutIt)
 {
     EXPECT_FALSE(QCoreApplication::testAttribute(Qt::AA_ShareOpenGLContexts));
@@ -124,10 +136,19 @@ TEST_F(HalvorinAppTest, ALaterLaunchBringsTheWindowToTheFront)
 
 TEST_F(HalvorinAppTest, ALaterLaunchHandsItsPermissionToTheWindow)
 {
+    // given
+    window().showMinimized();
     // This is where a platform looks for it when a window asks for the user's attention.
+    QByteArray token;
+    const auto lookForIt = QObject::connect(&window(), &QWindow::windowStateChanged,
+        [&token] { token = qgetenv("XDG_ACTIVATION_TOKEN"); });
+    // when
     const std::future<void> later = machine->launchAgain("token-of-the-desktop");
-    EXPECT_TRUE(
-        waitUntil([] { return qgetenv("XDG_ACTIVATION_TOKEN") == "token-of-the-desktop"; }));
+    EXPECT_TRUE(waitUntil([] { return window().windowState() == Qt::WindowNoState; }));
+    QObject::disconnect(lookForIt);
+    // then
+    EXPECT_EQ(token, "token-of-the-desktop");
+    EXPECT_FALSE(qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"));
 }
 
 TEST_F(HalvorinAppTest, ALaterLaunchShowsAMinimizedWindow)

@@ -20,6 +20,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr auto kFontResolution = "QT_FONT_DPI";
+constexpr auto kActivationToken = "XDG_ACTIVATION_TOKEN";
+
 constexpr auto kHelp = R"(Usage: halvorin [option]
 
 Opens the camera. Options:
@@ -78,15 +81,14 @@ void waitUntilRead(const QQmlComponent &component)
 
 } // namespace
 
-void HalvorinApp::prepareEnvironment()
-{
-    // One design point is one logical pixel, on every desktop.
-    qputenv("QT_FONT_DPI", "72");
-}
-
 HalvorinApp::HalvorinApp(int &argc, char **argv)
-    : m_status(statusOfModes(argumentList(argc, argv)))
 {
+    if (qEnvironmentVariableIsSet(kFontResolution))
+        m_fontResolution = qgetenv(kFontResolution);
+    // One design point is one logical pixel, on every desktop.
+    qputenv(kFontResolution, "72");
+
+    m_status = statusOfModes(argumentList(argc, argv));
     if (!m_status)
         start(argc, argv);
 }
@@ -101,9 +103,9 @@ void HalvorinApp::start(int &argc, char **argv)
     QGuiApplication::setDesktopFileName(u"crvn-halvorin"_s);
 
     m_instance = std::make_unique<SingleInstance>();
-    if (!m_instance->isFirst()) {
     if (!m_instance->isFirst())
-        m_instance->callFirst(qgetenv("XDG_ACTIVATION_TOKEN"));
+        m_instance->callFirst(qgetenv(kActivationToken));
+    if (!m_instance->isFirst()) {
         m_status = 0;
         return;
     }
@@ -131,7 +133,10 @@ void HalvorinApp::start(int &argc, char **argv)
     m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
     if (!m_window)
         qFatal("The window could not be built: %s", qPrintable(component.errorString()));
-    const auto afterFirstFrame = [this] { m_indexing = HVSetup::indexCourse(); };
+    const auto afterFirstFrame = [this] {
+        tidyEnvironment();
+        m_indexing = HVSetup::indexCourse();
+    };
     QObject::connect(m_window.get(), &QQuickWindow::frameSwapped, m_application.get(),
         afterFirstFrame, Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     m_window->show();
@@ -159,10 +164,21 @@ void HalvorinApp::bringToFront(const QByteArray &activationToken)
         return;
     // The platform takes the token of the launch that asks from where a launch would leave it.
     if (!activationToken.isEmpty())
-        qputenv("XDG_ACTIVATION_TOKEN", activationToken);
+        qputenv(kActivationToken, activationToken);
     // Not show(), which makes a maximized window and one on the full screen small.
     camera->setWindowStates(camera->windowStates() & ~Qt::WindowMinimized);
     camera->setVisible(true);
     camera->raise();
     camera->requestActivate();
+    qunsetenv(kActivationToken);
+}
+
+void HalvorinApp::tidyEnvironment() const
+{
+    // Qt has read the resolution with the first screen, and the token was for this launch.
+    if (m_fontResolution)
+        qputenv(kFontResolution, *m_fontResolution);
+    else
+        qunsetenv(kFontResolution);
+    qunsetenv(kActivationToken);
 }
