@@ -2,7 +2,6 @@
 
 int main(int argc, char **argv)
 {
-    HalvorinApp::prepareEnvironment();
     HalvorinApp app(argc, argv);
     return app.run();
 }

@@ -147,7 +147,6 @@ int main(int argc, char **argv)
     if (!qEnvironmentVariableIsSet("DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
 
-    HalvorinApp::prepareEnvironment();
     HalvorinApp app(argc, argv);
     g_app = &app;
     benchmark::RunSpecifiedBenchmarks();

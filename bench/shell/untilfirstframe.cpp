@@ -6,7 +6,6 @@
 
 int main(int argc, char **argv)
 {
-    HalvorinApp::prepareEnvironment();
     const HalvorinApp app(argc, argv);
     return runUntilFirstFrame(app.window());
 }

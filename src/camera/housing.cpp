@@ -8,9 +8,6 @@
 #include <QLinearGradient>
 #include <QPainter>
 
-#include <optional>
-#include <utility>
-
 using namespace Housing;
 
 namespace {
@@ -105,50 +102,16 @@ void paint(QPainter &painter, const Glass &look)
         painter, glass, { .radius = kGlassRadius, .fill = sheen, .stroke = rim, .strokeWidth = 1 });
 }
 
-template <typename Look>
-std::shared_future<QImage> started(const Look &look)
-{
-    return startPicture(
-        look.pixels, look.size, [look](QPainter &painter) { paint(painter, look); });
-}
-
-template <typename Look>
-struct Kept {
-    Look look;
-    std::shared_future<QImage> picture;
-};
-
-std::optional<Kept<Body>> keptBody;
-std::optional<Kept<Glass>> keptGlass;
-
-template <typename Look>
-std::shared_future<QImage> taken(std::optional<Kept<Look>> &kept, const Look &look)
-{
-    if (kept && kept->look == look)
-        return std::exchange(kept, std::nullopt)->picture;
-    return started(look);
-}
-
 } // namespace
 
 std::shared_future<QImage> Housing::startedPicture(const Body &body)
 {
-    return taken(keptBody, body);
+    return startPicture(
+        body.pixels, body.size, [body](QPainter &painter) { paint(painter, body); });
 }
 
 std::shared_future<QImage> Housing::startedPicture(const Glass &glass)
 {
-    return taken(keptGlass, glass);
-}
-
-void Housing::startAhead(const Body &body, const Glass &glass)
-{
-    keptBody = { body, started(body) };
-    keptGlass = { glass, started(glass) };
-}
-
-void Housing::forgetAhead()
-{
-    keptBody.reset();
-    keptGlass.reset();
+    return startPicture(
+        glass.pixels, glass.size, [glass](QPainter &painter) { paint(painter, glass); });
 }

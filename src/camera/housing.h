@@ -16,16 +16,12 @@ struct Body {
     QRectF display; ///< What something opaque covers; it isn't painted.
     HVColors colors;
     QSize pixels;
-
-    friend bool operator==(const Body &, const Body &) = default;
 };
 
 struct Glass {
     QSize size; ///< Points.
     HVColors colors;
     QSize pixels;
-
-    friend bool operator==(const Glass &, const Glass &) = default;
 };
 
 /// Starts metal, leather and a lit edge.
@@ -33,11 +29,5 @@ struct Glass {
 
 /// Starts bezel, inner glow and the sheen of the glass.
 [[nodiscard]] std::shared_future<QImage> startedPicture(const Glass &glass);
-
-/// Starts both for the first who asks for such a body and such a glass.
-void startAhead(const Body &body, const Glass &glass);
-
-/// Drops what was started ahead and nobody has asked for.
-void forgetAhead();
 
 } // namespace Housing

@@ -8,7 +8,9 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <filesystem>
 #include <optional>
+#include <system_error>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -19,29 +21,35 @@ constexpr qsizetype kVideoColumns = 8;
 
 struct FileText {
     QString text;
-    QString problem; // A sentence; empty if the file could be read.
+    QString problem; // As loadErrors tells it; empty if the file could be read.
 };
 
 FileText readFile(const QString &path)
 {
+    // Not QFileInfo, to which a file in a folder that may not be entered isn't there.
+    std::error_code error;
+    const std::filesystem::file_status status
+        = std::filesystem::status(QFileInfo(path).filesystemFilePath(), error);
+    if (error == std::errc::permission_denied)
+        return { .problem = u"its folder may not be entered"_s };
+    if (!std::filesystem::exists(status))
+        return { .problem = u"the file can't be found"_s };
+    if (std::filesystem::is_directory(status))
+        return { .problem = u"there is a folder in its place"_s };
     // A pipe or a device may keep its reader waiting for ever.
-    const QFileInfo info(path);
-    if (!info.isFile()) {
-        return { .problem = info.isDir() ? u"There is a folder in its place."_s
-                : info.exists()          ? u"It isn't an ordinary file."_s
-                                         : u"The file can't be found."_s };
-    }
+    if (!std::filesystem::is_regular_file(status))
+        return { .problem = u"it isn't an ordinary file"_s };
 
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return { .problem = u"The file can't be read."_s };
+        return { .problem = u"the file can't be read"_s };
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
-        return { .problem = u"The file can't be read."_s };
+        return { .problem = u"the file can't be read"_s };
 
     std::optional<QString> text = Text::decodedUtf8(bytes);
     if (!text)
-        return { .problem = u"The file isn't valid UTF-8 text."_s };
+        return { .problem = u"the file isn't valid UTF-8 text"_s };
     return { .text = *std::move(text) };
 }
 

@@ -16,12 +16,13 @@ struct CourseContent {
     QList<WorkflowStep> workflow;
 
     /// One text for each file that can't be read, in the order of the files: the file's name, ": "
-    /// and one of these sentences.
-    ///   The file can't be found.
-    ///   There is a folder in its place.
-    ///   It isn't an ordinary file.
-    ///   The file can't be read.
-    ///   The file isn't valid UTF-8 text.
+    /// and one of these texts, which stand one after the other in a message.
+    ///   its folder may not be entered
+    ///   the file can't be found
+    ///   there is a folder in its place
+    ///   it isn't an ordinary file
+    ///   the file can't be read
+    ///   the file isn't valid UTF-8 text
     QStringList loadErrors;
 };
 

@@ -1,10 +1,7 @@
 #include "kit/fonts.h"
 
 #include <QFontDatabase>
-#include <QFontMetricsF>
 #include <QStringList>
-
-#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -63,12 +60,6 @@ QFont rounded(double size, QFont::Weight weight, double tracking)
 QFont monospaced(double size, QFont::Weight weight)
 {
     return font(monospacedFamily(), size, weight);
-}
-
-void ensureOpen(const QFont &font)
-{
-    // A single character would be measured without the tables that texts are shaped by.
-    std::ignore = QFontMetricsF(font).horizontalAdvance(u"f/2 a"_s);
 }
 
 } // namespace Fonts

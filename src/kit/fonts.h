@@ -13,9 +13,4 @@ namespace Fonts {
 /// The monospaced font: JetBrains Mono, else DejaVu Sans Mono, else what the platform has.
 [[nodiscard]] QFont monospaced(double size, QFont::Weight weight = QFont::Normal);
 
-/// Finds and opens the file of `font` and reads what letters are shaped by, which its first text
-/// would wait for: half a millisecond.
-/// Opened fonts belong to the thread that has opened them.
-void ensureOpen(const QFont &font);
-
 } // namespace Fonts

@@ -61,8 +61,12 @@ QImage paintSheet()
 std::optional<int> HVDiagramSheet::handle(const QStringList &arguments)
 {
     const qsizetype option = arguments.indexOf(kOption);
-    if (option < 0 || option + 1 >= arguments.size())
+    if (option < 0)
         return std::nullopt;
+    if (option + 1 == arguments.size()) {
+        QTextStream(stderr) << "Usage: halvorin "_L1 << kOption << " FILE"_L1 << Qt::endl;
+        return 2;
+    }
     const QString path = arguments.at(option + 1);
 
     const OffscreenApplication application;

@@ -8,11 +8,14 @@
 
 namespace {
 
-// An environment variable that is set but empty counts as not set.
+// An environment variable that is set but empty counts as not set. The text stays as it is: to take
+// "link/.." out of it would lead elsewhere than the link does, and what begins with ":" would be a
+// resource of the program to Qt unless it stands behind a folder.
 QString environmentPath(const char *name)
 {
     const QString path = qEnvironmentVariable(name);
-    return path.isEmpty() ? QString() : QDir::cleanPath(QDir::current().absoluteFilePath(path));
+    const bool isWhole = path.isEmpty() || (QDir::isAbsolutePath(path) && !path.startsWith(u':'));
+    return isWhole ? path : QDir::currentPath() + u'/' + path;
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "shell/setup.h"
 
+#include "camera/hvcolors.h"
 #include "content/contentlibrary.h"
-#include "kit/fonts.h"
 #include "kit/kit.h"
 #include "shell/appmodel.h"
 #include "shell/info.h"
@@ -47,46 +47,6 @@ void configure()
 void prepareCourse()
 {
     std::ignore = ContentLibrary::shared();
-}
-
-Housing::Body firstBody(double ratio, const HVColors &colors)
-{
-    constexpr QSize kSize(1412, 892);
-    return { .size = kSize,
-        .display = QRectF(248, 155, 1104, 674),
-        .colors = colors,
-        .pixels = (QSizeF(kSize) * ratio).toSize() };
-}
-
-Housing::Glass firstGlass(double ratio, const HVColors &colors)
-{
-    constexpr QSize kSize(1104, 764);
-    return { .size = kSize, .colors = colors, .pixels = (QSizeF(kSize) * ratio).toSize() };
-}
-
-QList<QFont> firstFonts()
-{
-    using Fonts::rounded;
-    return {
-        rounded(8.5, QFont::Bold),
-        rounded(8.5, QFont::Black),
-        rounded(9, QFont::Black),
-        rounded(9.5, QFont::ExtraBold),
-        rounded(10, QFont::ExtraBold),
-        rounded(11, QFont::DemiBold),
-        rounded(11, QFont::ExtraBold),
-        rounded(11.5),
-        rounded(12.5),
-        rounded(12.5, QFont::Medium),
-        rounded(12.5, QFont::Bold),
-        rounded(13, QFont::Medium),
-        rounded(13, QFont::ExtraBold),
-        rounded(13.5),
-        rounded(14, QFont::ExtraBold),
-        rounded(21, QFont::ExtraBold),
-        rounded(30, QFont::ExtraBold),
-        Fonts::monospaced(11, QFont::Bold),
-    };
 }
 
 void openStore()

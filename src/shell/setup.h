@@ -2,10 +2,6 @@
 // file is opened, the course is read and, when the window stands, indexed.
 #pragma once
 
-#include "camera/housing.h"
-
-#include <QFont>
-#include <QList>
 #include <QThread>
 
 #include <memory>
@@ -18,15 +14,6 @@ void configure();
 /// Reads the course, which takes long and waits for nothing else. It may run in a thread of its
 /// own, if nothing asks for the course until it has returned.
 void prepareCourse();
-
-/// The camera's surfaces in a window of usual size, at a zoom of 1 and `ratio` device pixels per
-/// point. They can be painted ahead; those of another window are painted when it is shown.
-[[nodiscard]] Housing::Body firstBody(double ratio, const HVColors &colors);
-[[nodiscard]] Housing::Glass firstGlass(double ratio, const HVColors &colors);
-
-/// The fonts that the first screen is lettered in. One that is missing here is opened when its
-/// first text is laid out.
-[[nodiscard]] QList<QFont> firstFonts();
 
 /// Opens the progress file as UserStore::shared(). Never fails.
 ///

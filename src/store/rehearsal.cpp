@@ -29,6 +29,10 @@ constexpr qint64 kLargestCopy = 256 * 1024 * 1024;
 // takes a single byte for an empty file and writes over it.
 constexpr qint64 kHeaderSize = 100;
 
+// What SQLite writes at least. A new file has one page, the switch to write-ahead logging, before
+// it has a table.
+constexpr qint64 kPageSize = 4096;
+
 HVError refusal(const QString &reason)
 {
     return HVError(HVError::Kind::Database, reason);
@@ -182,13 +186,43 @@ std::optional<HVError> objectionTo(const QString &path)
     }
 }
 
+QStringList presentFiles(const QString &path)
+{
+    QStringList files;
+    for (const QString &suffix : { kFile, kWal, kJournal, kIndex }) {
+        if (QFileInfo::exists(path + suffix))
+            files.append(path + suffix);
+    }
+    return files;
+}
+
+// A disk without room lets SQLite make the files and not fill them. What an opening that failed has
+// left is taken away again, unless it holds something or another process is at work there.
+std::unique_ptr<UserStore> openedOrUntouched(const QUrl &url, const QString &path)
+{
+    const QStringList before = presentFiles(path);
+    try {
+        return std::make_unique<UserStore>(url);
+    } catch (const HVError &error) {
+        QStringList added = presentFiles(path);
+        added.removeIf([&before](const QString &file) { return before.contains(file); });
+        const bool holdsSomething = (added.contains(path) && QFileInfo(path).size() > kPageSize)
+            || (added.contains(path + kWal) && hasContent(path + kWal));
+        if (!holdsSomething && error.sqliteCode() != SQLITE_BUSY) {
+            for (const QString &file : added)
+                QFile::remove(file);
+        }
+        throw;
+    }
+}
+
 } // namespace
 
 std::unique_ptr<UserStore> openProgressFile(const QUrl &url)
 {
     const QFileInfo info(url.toLocalFile());
     // SQLite follows a link and has the companions beside the file that it leads to.
-    const QString path = info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
+    const QString path = info.exists() ? info.canonicalFilePath() : info.filePath();
     requireWritableFiles(path);
 
     // In this order: a process that is just creating the file writes to it before it has a "-wal".
@@ -206,5 +240,5 @@ std::unique_ptr<UserStore> openProgressFile(const QUrl &url)
         // SQLite deletes the changes that have lost their file. They may be all that is left of it.
         throw refusal(u"the file is empty, but changes that belong to it are there"_s);
     }
-    return std::make_unique<UserStore>(url);
+    return openedOrUntouched(url, path);
 }

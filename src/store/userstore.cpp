@@ -68,7 +68,7 @@ SQLiteDB openedForOwner(const QUrl &url)
         // would be gone at the end.
         throw HVError(HVError::Kind::Database, u"the address isn't that of a file"_s);
     }
-    QDir().mkpath(QFileInfo(path).absolutePath()); // if it fails, so does the opening
+    QDir().mkpath(QFileInfo(path).path()); // if it fails, so does the opening
     createForOwnerOnly(path);
 
     // Where two processes open a new file at once, the switch to WAL and the first tables answer

@@ -105,7 +105,7 @@ TEST(ContentProblems, AreToldInTheOrderOfTheirRules)
     folder.write(u"software.txt"_s, "=== SOFTWARE s\n");
     EXPECT_EQ(ContentLibrary(folder.path()).problems(),
         (QStringList{
-            u"workflows.txt: The file can't be found."_s,
+            u"workflows.txt: the file can't be found"_s,
             u"lesson l: unknown module m"_s,
             u"lesson l: missing title or too short"_s,
             u"lesson l: unknown gear g"_s,

@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <future>
 
 using namespace Qt::StringLiterals;
 
@@ -75,18 +74,6 @@ TEST(RoundedFont, HasEveryCharacterThatTheScreensUse)
     const QFontMetrics metrics(Fonts::rounded(14));
     for (const QChar character : u"→−×÷²₂✓•·…—–“”’ƒ"_s)
         EXPECT_TRUE(metrics.inFont(character)) << qPrintable(QString(character));
-}
-
-TEST(OpenedFont, MeasuresAsItDoesInAThreadThatOpensItLater)
-{
-    const QFont font = Fonts::rounded(17, QFont::Bold);
-    Fonts::ensureOpen(font);
-    const double here = QFontMetricsF(font).horizontalAdvance(u"CRVN"_s);
-    const double there = std::async(std::launch::async, [font] {
-        return QFontMetricsF(font).horizontalAdvance(u"CRVN"_s);
-    }).get();
-    EXPECT_GT(here, 0);
-    EXPECT_EQ(here, there);
 }
 
 TEST(MonospacedFont, HasSizeAndWeight)

@@ -167,6 +167,33 @@ TEST_F(HVInfoPlaces, ARelativeProgressFileCountsFromTheWorkingFolder)
         HVInfo::databaseURL(), QUrl::fromLocalFile(QDir::currentPath() + u"/my notes.sqlite"_s));
 }
 
+TEST_F(HVInfoPlaces, AProgressFileBehindALinkStandsWhereItLeadsTo)
+{
+    // given: ".." behind a link means the folder above the one that it leads to
+    ASSERT_TRUE(QDir().mkpath(home.path(u"far/away"_s)));
+    ASSERT_TRUE(QFile::link(home.path(u"far/away"_s), home.path(u"link"_s)));
+    writeFile(home.path(u"far/mine.sqlite"_s), "notes");
+    // then
+    const EnvironmentVariable path("HV_DB_PATH", home.path(u"link/../mine.sqlite"_s));
+    EXPECT_EQ(QFileInfo(HVInfo::databaseURL().toLocalFile()).canonicalFilePath(),
+        QFileInfo(home.path(u"far/mine.sqlite"_s)).canonicalFilePath());
+}
+
+TEST_F(HVInfoPlaces, AProgressFileWhoseNameBeginsWithAColonStandsInTheWorkingFolder)
+{
+    const WorkingFolder here(home.path());
+    const EnvironmentVariable path("HV_DB_PATH", u":mine.sqlite"_s);
+    EXPECT_EQ(
+        HVInfo::databaseURL(), QUrl::fromLocalFile(QDir::currentPath() + u"/:mine.sqlite"_s));
+}
+
+TEST_F(HVInfoPlaces, AContentFolderWhoseNameBeginsWithAColonStandsInTheWorkingFolder)
+{
+    const WorkingFolder here(home.path());
+    const EnvironmentVariable path("HV_CONTENT", u":course"_s);
+    EXPECT_EQ(HVInfo::contentFolder(), QDir::currentPath() + u"/:course"_s);
+}
+
 TEST_F(HVInfoPlaces, AProgressFileMayHaveCharactersThatMeanSomethingInAnAddress)
 {
     const QString name = home.path(u"100%25 of #my? notes ü.sqlite"_s);

@@ -109,11 +109,14 @@ TEST_F(Launch, ASnapshotWithoutAFolderOpensTheCamera)
     EXPECT_EQ(program.output(), u""_s);
 }
 
-TEST_F(Launch, ADiagramSheetWithoutAFileOpensTheCamera)
+TEST_F(Launch, ADiagramSheetWithoutAFileSaysHowItIsAskedFor)
 {
+    const Fingerprint before = home.fingerprint();
     Program program(home, { u"--diagram-sheet"_s });
-    expectToRunAndEnd(program);
+    EXPECT_EQ(program.status(), 2);
     EXPECT_EQ(program.output(), u""_s);
+    EXPECT_EQ(program.complaints(), u"Usage: halvorin --diagram-sheet FILE\n"_s);
+    EXPECT_EQ(home.fingerprint(), before);
 }
 
 TEST_F(Launch, TheCameraOpensWithoutACourse)
@@ -209,6 +212,19 @@ INSTANTIATE_TEST_SUITE_P(
             return "HangUp";
         }
     });
+
+TEST_F(Launch, OutlivesItsTerminalIfItWasStartedTo)
+{
+    // given
+    Program program(home, {}, [] { std::signal(SIGHUP, SIG_IGN); });
+    ASSERT_TRUE(program.waitUntilItAnswers());
+    EXPECT_FALSE(program.handles(SIGHUP));
+    // when
+    program.send(SIGHUP);
+    // then
+    EXPECT_TRUE(program.waitUntilItAnswers());
+    expectToRunAndEnd(program);
+}
 
 TEST_F(Launch, EndsWhenAskedBeforeItHasAWindow)
 {

@@ -8,6 +8,7 @@
 #include "store/storetesting.h"
 #include "store/userstore.h"
 #include "support/environment.h"
+#include "support/filesizelimit.h"
 #include "support/ordinaryuser.h"
 #include "support/testcourse.h"
 
@@ -137,13 +138,13 @@ protected:
 };
 
 const QString kNoCourse = u"Some course files could not be read: "
-                          "course.txt: The file can't be found.; "
-                          "quizzes.txt: The file can't be found.; "
-                          "gear.txt: The file can't be found.; "
-                          "timeline.txt: The file can't be found.; "
-                          "videos.tsv: The file can't be found.; "
-                          "software.txt: The file can't be found.; "
-                          "workflows.txt: The file can't be found."_s;
+                          "course.txt: the file can't be found; "
+                          "quizzes.txt: the file can't be found; "
+                          "gear.txt: the file can't be found; "
+                          "timeline.txt: the file can't be found; "
+                          "videos.tsv: the file can't be found; "
+                          "software.txt: the file can't be found; "
+                          "workflows.txt: the file can't be found"_s;
 
 } // namespace
 
@@ -324,6 +325,40 @@ TEST_F(HVSetupOpenStore, StartsANewFileInTheDataFolderWhenAFileElsewhereIsDamage
     EXPECT_EQ(messages, QStringList(couldNotBeOpened(u"file is not a database"_s, elsewhere)));
 }
 
+TEST_F(HVSetupOpenStore, LeavesNothingOnADiskWithoutRoom)
+{
+    // given: a sound file, and no room for the index that SQLite keeps beside an open one
+    HVSetup::openStore();
+    UserStore::setShared(nullptr);
+    const Fingerprint before = fingerprint(dataFolder());
+    // when
+    {
+        const FileSizeLimit limit(16 * 1024);
+        HVSetup::openStore();
+    }
+    letEventLoopRun();
+    // then
+    EXPECT_EQ(UserStore::shared(), nullptr);
+    EXPECT_EQ(messages, QStringList(couldNotBeOpened(u"disk I/O error"_s, progressFile())));
+    EXPECT_EQ(fingerprint(dataFolder()), before);
+}
+
+TEST_F(HVSetupOpenStore, LeavesADatabaseWhoseNameBeginsWithAColonUntouched)
+{
+    // given: one that is refused, in the working folder
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir().mkpath(home.path(u"work"_s)) && QDir::setCurrent(home.path(u"work"_s)));
+    SQLiteDB(QDir::currentPath() + u"/:mine.sqlite"_s).exec(u"CREATE TABLE notes (text)"_s);
+    const Fingerprint untouched = fingerprint(home.path(u"work"_s));
+    const EnvironmentVariable path("HV_DB_PATH", u":mine.sqlite"_s);
+    // when
+    launch();
+    QDir::setCurrent(before);
+    // then
+    EXPECT_EQ(fingerprint(home.path(u"work"_s)), untouched);
+    expectAStopgap();
+}
+
 TEST_F(HVSetupOpenStore, CallsTheNewFileByTheSecondOfTheLaunch)
 {
     putTextFile(progressFile());
@@ -429,8 +464,8 @@ TEST_F(HVSetupOpenStore, NamesOnlyTheCourseFilesThatCanNotBeRead)
     const EnvironmentVariable partial("HV_CONTENT", home.path(u"partial"_s));
     launch();
     EXPECT_EQ(messages,
-        QStringList(u"Some course files could not be read: gear.txt: The file can't be found.; "
-                    "software.txt: The file isn't valid UTF-8 text."_s));
+        QStringList(u"Some course files could not be read: gear.txt: the file can't be found; "
+                    "software.txt: the file isn't valid UTF-8 text"_s));
 }
 
 TEST_F(HVSetupOpenStore, OpensTheProgressFileWhateverTheCourseIsLike)

@@ -5,6 +5,7 @@
 #include "support/ordinaryuser.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
@@ -17,6 +18,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <future>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -90,6 +92,15 @@ private:
 class SingleInstanceTest : public ::testing::Test
 {
 protected:
+    // Calls the first from a thread of its own, since it waits for the answer of this one's event
+    // loop.
+    [[nodiscard]] std::future<void> call(const QByteArray &token) const
+    {
+        return std::async(std::launch::async, [path = folder.path(), token] {
+            SingleInstance(path).callFirst(token);
+        });
+    }
+
     [[nodiscard]] QString lockFile() const { return folder.path(u"crvn-halvorin.lock"_s); }
     [[nodiscard]] QString socketFile() const { return folder.path(u"crvn-halvorin.socket"_s); }
 
@@ -145,6 +156,31 @@ TEST_F(SingleInstanceTest, UsesTheRuntimeFolderOfTheUser)
     EXPECT_FALSE(SingleInstance(folder.path()).isFirst());
 }
 
+TEST_F(SingleInstanceTest, UsesTheDataFolderWhereTheRuntimeFolderIsUnfitOrUnset)
+{
+    // given: a folder that others may look into, or none, and no place for temporary files
+    const QString unfit = folder.path(u"run"_s);
+    ASSERT_TRUE(QDir().mkdir(unfit));
+    ASSERT_TRUE(QFile::setPermissions(unfit, QFile::Permissions(0x7755)));
+    writeFile(folder.path(u"no folder"_s), "");
+    const EnvironmentVariable temporary("TMPDIR", folder.path(u"no folder"_s));
+    const EnvironmentVariable data("XDG_DATA_HOME", folder.path(u"data"_s));
+    for (const std::optional<QString> &named : { std::optional(unfit), std::optional<QString>() }) {
+        const EnvironmentVariable runtime("XDG_RUNTIME_DIR", named);
+        const QString before = QDir::currentPath();
+        // when: each of two launches has a working folder of its own
+        ASSERT_TRUE(QDir::setCurrent(folder.path()));
+        const SingleInstance first;
+        ASSERT_TRUE(QDir::setCurrent(unfit));
+        const SingleInstance second;
+        QDir::setCurrent(before);
+        // then
+        EXPECT_TRUE(first.isFirst());
+        EXPECT_FALSE(second.isFirst());
+        EXPECT_FALSE(SingleInstance(folder.path(u"data/CRVN Halvorin"_s)).isFirst());
+    }
+}
+
 TEST_F(SingleInstanceTest, TheNextIsFirstOnceTheFirstHasEnded)
 {
     {
@@ -197,7 +233,7 @@ TEST_F(SingleInstanceTest, AnInstanceThatFollowsAKilledOneCanBeCalled)
     const SingleInstance first(folder.path());
     Calls calls(first);
     // when
-    SingleInstance(folder.path()).callFirst("token");
+    const std::future<void> caller = call("token");
     // then
     EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ "token" }));
 }
@@ -259,7 +295,7 @@ TEST_F(SingleInstanceTest, ACallReachesTheFirstWithItsToken)
 {
     const SingleInstance first(folder.path());
     Calls calls(first);
-    SingleInstance(folder.path()).callFirst("kde-1234_TIME5678");
+    const std::future<void> caller = call("kde-1234_TIME5678");
     EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ "kde-1234_TIME5678" }));
 }
 
@@ -267,7 +303,7 @@ TEST_F(SingleInstanceTest, ACallWithAnEmptyTokenReachesTheFirst)
 {
     const SingleInstance first(folder.path());
     Calls calls(first);
-    SingleInstance(folder.path()).callFirst({});
+    const std::future<void> caller = call({});
     EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ QByteArray() }));
 }
 
@@ -278,6 +314,7 @@ TEST_F(SingleInstanceTest, ACallFromAnotherProcessReachesTheFirst)
     Other other({ u"call"_s, folder.path(), u"token"_s });
     EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ "token" }));
     EXPECT_EQ(other.rank(), u"later"_s);
+    EXPECT_EQ(other.rank(), u"later"_s);
 }
 
 TEST_F(SingleInstanceTest, ALongTokenArrivesWhole)
@@ -285,7 +322,7 @@ TEST_F(SingleInstanceTest, ALongTokenArrivesWhole)
     const QByteArray token(4096, 't');
     const SingleInstance first(folder.path());
     Calls calls(first);
-    SingleInstance(folder.path()).callFirst(token);
+    const std::future<void> caller = call(token);
     EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ token }));
 }
 
@@ -293,10 +330,7 @@ TEST_F(SingleInstanceTest, EveryCallReachesTheFirst)
 {
     const SingleInstance first(folder.path());
     Calls calls(first);
-    SingleInstance second(folder.path());
-    second.callFirst("one");
-    second.callFirst("two");
-    SingleInstance(folder.path()).callFirst("three");
+    const std::future<void> callers[] = { call("one"), call("two"), call("three") };
     QByteArrayList tokens = calls.waitFor(3);
     std::sort(tokens.begin(), tokens.end());
     EXPECT_EQ(tokens, (QByteArrayList{ "one", "three", "two" }));
@@ -311,7 +345,7 @@ TEST_F(SingleInstanceTest, ACallerThatKeepsTheLineDoesNotKeepOthersFromCalling)
     silent.connectToServer(socketFile());
     ASSERT_TRUE(silent.waitForConnected(kPatience));
     // when
-    SingleInstance(folder.path()).callFirst("token");
+    const std::future<void> caller = call("token");
     // then
     EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ "token" }));
 }
@@ -327,7 +361,7 @@ TEST_F(SingleInstanceTest, ItsOwnEndIsNoCall)
     silent.connectToServer(socketFile());
     ASSERT_TRUE(silent.waitForConnected(kPatience));
     // and: a call behind it, so that the silent one has been taken for certain
-    SingleInstance(folder.path()).callFirst({});
+    const std::future<void> caller = call({});
     while (calls == 0)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     // when
@@ -350,9 +384,8 @@ TEST_F(SingleInstanceTest, ACallWaitsForAFirstThatDoesNotListenYet)
     // then
     ASSERT_TRUE(server.waitForNewConnection(kPatience));
     QLocalSocket *caller = server.nextPendingConnection();
-    while (caller->state() == QLocalSocket::ConnectedState && caller->waitForReadyRead(kPatience))
-        continue;
-    EXPECT_EQ(caller->readAll(), "token");
+    while (!caller->canReadLine() && caller->waitForReadyRead(kPatience)) { }
+    EXPECT_EQ(caller->readLine(), "token\n");
 }
 
 TEST_F(SingleInstanceTest, ACallThatNobodyTakesEnds)
@@ -365,6 +398,54 @@ TEST_F(SingleInstanceTest, ACallThatNobodyTakesEnds)
     ASSERT_FALSE(second.isFirst());
     second.callFirst("token");
     EXPECT_FALSE(QFileInfo::exists(socketFile()));
+}
+
+TEST_F(SingleInstanceTest, ACallerTakesThePlaceOfAFirstThatEndsBeforeItListens)
+{
+    // given
+    QLockFile lock(lockFile());
+    ASSERT_TRUE(lock.tryLock());
+    Other other({ u"call"_s, folder.path(), u"token"_s });
+    ASSERT_EQ(other.rank(), u"later"_s);
+    // when
+    lock.unlock();
+    // then
+    EXPECT_EQ(other.rank(), u"first"_s);
+}
+
+TEST_F(SingleInstanceTest, ACallerTakesThePlaceOfAFirstThatEndsWithoutAnAnswer)
+{
+    // given: a first that is asked to end as the call comes in
+    QLockFile lock(lockFile());
+    ASSERT_TRUE(lock.tryLock());
+    QLocalServer server;
+    ASSERT_TRUE(server.listen(socketFile()));
+    Other other({ u"call"_s, folder.path(), u"token"_s });
+    ASSERT_EQ(other.rank(), u"later"_s);
+    ASSERT_TRUE(server.waitForNewConnection(kPatience));
+    // when
+    delete server.nextPendingConnection();
+    server.close();
+    lock.unlock();
+    // then
+    EXPECT_EQ(other.rank(), u"first"_s);
+}
+
+TEST_F(SingleInstanceTest, ACallerThatTookThePlaceOfTheFirstCanBeCalled)
+{
+    // given
+    auto lock = std::make_unique<QLockFile>(lockFile());
+    ASSERT_TRUE(lock->tryLock());
+    SingleInstance second(folder.path());
+    ASSERT_FALSE(second.isFirst());
+    // when
+    lock.reset();
+    second.callFirst("for the one that has ended");
+    // then
+    ASSERT_TRUE(second.isFirst());
+    Calls calls(second);
+    const std::future<void> caller = call("token");
+    EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ "token" }));
 }
 
 TEST_F(SingleInstanceTest, NobodyButTheUserCanCall)

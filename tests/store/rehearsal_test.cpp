@@ -12,10 +12,9 @@
 #include <filesystem>
 
 #ifdef Q_OS_UNIX
+#include "support/filesizelimit.h"
 #include "support/ordinaryuser.h"
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #endif
 
@@ -242,28 +241,8 @@ TEST_P(Refusal, LeavesEveryByteAndAddsNone)
 
 namespace {
 
-// While it lives, no file can be written to beyond this size: a disk without room for a copy.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t size)
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limited{ .rlim_cur = size, .rlim_max = m_before.rlim_max };
-        setrlimit(RLIMIT_FSIZE, &limited);
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    FileSizeLimit(const FileSizeLimit &) = delete;
-    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int) = std::signal(SIGXFSZ, SIG_IGN); // then the write fails instead
-};
+// The index that SQLite keeps beside an open file takes 32 KB.
+constexpr rlim_t kNoRoomForAnIndex = 16 * 1024;
 
 constexpr QFile::Permissions kReadable
     = QFile::ReadOwner | QFile::ReadUser | QFile::ReadGroup | QFile::ReadOther;
@@ -364,6 +343,29 @@ TEST_F(OpenProgressFile, OpensOursWithAWalWhereNoCopyFits)
         store = openProgressFile(url);
     }
     EXPECT_EQ(store->notes().size(), 20);
+}
+
+TEST_F(OpenProgressFile, LeavesOursUntouchedWhereThereIsNoRoomToOpenIt)
+{
+    makeOurs(path);
+    const FileSizeLimit limit(kNoRoomForAnIndex);
+    expectRefusedUntouched();
+}
+
+TEST_F(OpenProgressFile, LeavesOursWithAWalUntouchedWhereThereIsNoRoomToOpenIt)
+{
+    makeOursWithWal(path);
+    const FileSizeLimit limit(kNoRoomForAnIndex);
+    expectRefusedUntouched();
+}
+
+TEST_F(OpenProgressFile, LeavesNoNewFileWhereThereIsNoRoomForOne)
+{
+    for (const rlim_t room : { rlim_t(0), kNoRoomForAnIndex }) {
+        const FileSizeLimit limit(room);
+        EXPECT_TRUE(errorOf([&] { static_cast<void>(openProgressFile(url)); }));
+        EXPECT_EQ(fingerprint(folder.path()), Fingerprint());
+    }
 }
 
 TEST_F(OpenProgressFile, OpensOursInTheMiddleOfACheckpointWhereNoCopyFits)
@@ -506,6 +508,37 @@ TEST_F(OpenProgressFile, MakesTheFileThatALinkLeadsTo)
     ASSERT_TRUE(QFile::link(elsewhere.path(u"Real.sqlite"_s), path));
     EXPECT_NE(openProgressFile(url), nullptr);
     EXPECT_EQ(fingerprint(elsewhere.path()).keys(), QStringList{ u"Real.sqlite"_s });
+}
+
+TEST_F(OpenProgressFile, OpensWhatStandsBesideTheFolderThatALinkLeadsTo)
+{
+    const Folder elsewhere;
+    ASSERT_TRUE(QDir(elsewhere.path()).mkdir(u"inside"_s));
+    ASSERT_TRUE(QFile::link(elsewhere.path(u"inside"_s), folder.path(u"link"_s)));
+    makeOurs(elsewhere.path(kName));
+    EXPECT_EQ(openProgressFile(folder.url(u"link/../"_s + kName))->notes().size(), 20);
+}
+
+TEST_F(OpenProgressFile, LeavesWhatStandsBesideTheFolderThatALinkLeadsToUntouched)
+{
+    const Folder elsewhere;
+    ASSERT_TRUE(QDir(elsewhere.path()).mkdir(u"inside"_s));
+    ASSERT_TRUE(QFile::link(elsewhere.path(u"inside"_s), folder.path(u"link"_s)));
+    writeFile(elsewhere.path(kName + u"-wal"_s), "all that is left of a progress file");
+    const Fingerprint before = fingerprint(elsewhere.path());
+    EXPECT_TRUE(errorOf(
+        [&] { static_cast<void>(openProgressFile(folder.url(u"link/../"_s + kName))); }));
+    EXPECT_EQ(fingerprint(elsewhere.path()), before);
+}
+
+TEST_F(OpenProgressFile, MakesANewFileWithItsFoldersBesideTheFolderThatALinkLeadsTo)
+{
+    const Folder elsewhere;
+    ASSERT_TRUE(QDir(elsewhere.path()).mkdir(u"inside"_s));
+    ASSERT_TRUE(QFile::link(elsewhere.path(u"inside"_s), folder.path(u"link"_s)));
+    EXPECT_NE(openProgressFile(folder.url(u"link/../new/Progress.sqlite"_s)), nullptr);
+    EXPECT_TRUE(QFileInfo::exists(elsewhere.path(u"new/Progress.sqlite"_s)));
+    EXPECT_FALSE(QFileInfo::exists(folder.path(u"new"_s)));
 }
 
 TEST_F(OpenProgressFile, RehearsesBesideTheFileWhereTheTemporaryFolderIsMissing)

@@ -1,6 +1,7 @@
 // The program from its first line to its last.
 #pragma once
 
+#include <QByteArray>
 #include <QGuiApplication>
 #include <QQmlEngine>
 #include <QQuickWindow>
@@ -21,9 +22,8 @@ class SingleInstance;
 class HalvorinApp
 {
 public:
-    /// What must stand in the environment before any Qt object exists.
-    static void prepareEnvironment();
-
+    /// To be called before any Qt object exists, since these read the environment, which has what
+    /// is set for them until the first frame; programs that are started later don't inherit it.
     HalvorinApp(int &argc, char **argv);
     ~HalvorinApp();
     Q_DISABLE_COPY_MOVE(HalvorinApp)
@@ -38,7 +38,9 @@ public:
 private:
     void start(int &argc, char **argv);
     void bringToFront(const QByteArray &activationToken);
+    void tidyEnvironment() const;
 
+    std::optional<QByteArray> m_fontResolution; ///< As the user has set it, if at all.
     std::optional<int> m_status; ///< Set once there is nothing left to do.
     std::unique_ptr<QGuiApplication> m_application;
     std::unique_ptr<SingleInstance> m_instance;

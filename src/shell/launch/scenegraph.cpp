@@ -1,19 +1,47 @@
 #include "shell/launch/scenegraph.h"
 
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
 #include <QQuickWindow>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-bool hasGraphicsProcessor()
+bool isSetByEnvironment()
 {
+    return qEnvironmentVariableIsSet("QT_QUICK_BACKEND")
+        || qEnvironmentVariableIsSet("QSG_RHI_BACKEND");
+}
+
 #if defined(Q_OS_WIN) || defined(Q_OS_MACOS)
-    return true; // Direct3D and Metal are part of the platform.
+// Direct3D and Metal are part of the platform.
+bool hasDevice()
+{
+    return true;
+}
+
+bool drawsOnDevice()
+{
+    return true;
+}
 #else
-    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+// Whether the kernel shows a graphics processor: a render node, or the devices of drivers that do
+// without one.
+bool hasDevice()
+{
+    return !QDir(u"/dev/dri"_s).entryList({ u"renderD*"_s }, QDir::System).isEmpty()
+        || QFile::exists(u"/dev/nvidiactl"_s) || QFile::exists(u"/dev/dxg"_s);
+}
+
+// Whether this display lets us draw on it; a GL that runs on the processor stands in if not.
+bool drawsOnDevice()
+{
+    if (QGuiApplication::platformName() == "offscreen"_L1)
         return false;
     QOpenGLContext context;
     if (!context.create())
@@ -29,16 +57,22 @@ bool hasGraphicsProcessor()
     context.doneCurrent();
     return !renderer.isEmpty() && !renderer.contains("llvmpipe") && !renderer.contains("softpipe")
         && !renderer.contains("swrast") && !renderer.contains("software");
-#endif
 }
+#endif
 
 } // namespace
 
+void SceneGraph::prepare()
+{
+    const bool mayUseGL
+        = isSetByEnvironment() ? qgetenv("QT_QUICK_BACKEND") != "software" : hasDevice();
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts, mayUseGL);
+}
+
 void SceneGraph::choose()
 {
-    if (qEnvironmentVariableIsSet("QT_QUICK_BACKEND")
-        || qEnvironmentVariableIsSet("QSG_RHI_BACKEND"))
+    if (isSetByEnvironment())
         return;
-    if (!hasGraphicsProcessor())
+    if (!hasDevice() || !drawsOnDevice())
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }

@@ -1,8 +1,8 @@
 #include "shell/launch/singleinstance.h"
 
-#include <QDeadlineTimer>
+#include "shell/info.h"
+
 #include <QDir>
-#include <QLocalSocket>
 #include <QStandardPaths>
 #include <QThread>
 
@@ -29,10 +29,20 @@ bool isAlive(qint64 process)
 #endif
 }
 
+// The same for all launches of a user, wherever they are made from. Qt has a stand-in for a runtime
+// folder that is unset or unfit, but among the temporary files, whose place may change.
+QString usualFolder()
+{
+    const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    const bool isFit = !folder.isEmpty()
+        && QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) == folder;
+    return isFit ? folder : HVInfo::dataFolder();
+}
+
 } // namespace
 
 SingleInstance::SingleInstance(QObject *parent)
-    : SingleInstance(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation), parent)
+    : SingleInstance(usualFolder(), parent)
 { }
 
 SingleInstance::SingleInstance(const QString &folder, QObject *parent)
@@ -45,13 +55,6 @@ SingleInstance::SingleInstance(const QString &folder, QObject *parent)
     m_first = takeLock();
     if (m_first)
         listen();
-}
-
-SingleInstance::~SingleInstance()
-{
-    // Callers that are still connected lose their socket with the server; that is no call.
-    for (QLocalSocket *caller : m_server.findChildren<QLocalSocket *>())
-        caller->disconnect(this);
 }
 
 bool SingleInstance::takeLock()
@@ -75,30 +78,45 @@ void SingleInstance::listen()
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&m_server, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket *caller = m_server.nextPendingConnection()) {
-            connect(caller, &QLocalSocket::disconnected, this, [this, caller] {
-                Q_EMIT called(caller->read(kLongestToken));
-                caller->deleteLater();
-            });
+            caller->setReadBufferSize(kLongestToken + 1);
+            connect(caller, &QLocalSocket::readyRead, this, [this, caller] { hear(caller); });
+            connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
         }
     });
     m_server.listen(m_socketPath);
 }
 
+void SingleInstance::hear(QLocalSocket *caller)
+{
+    if (!caller->canReadLine())
+        return;
+    const QByteArray token = caller->readLine().chopped(1);
+    caller->write("\n");
+    caller->flush();
+    Q_EMIT called(token);
+}
+
 void SingleInstance::callFirst(const QByteArray &activationToken)
 {
-    // The first instance may have its lock and not its socket yet.
-    QLocalSocket socket;
+    const QByteArray call = activationToken.left(kLongestToken) + '\n';
     const QDeadlineTimer deadline(kPatience);
-    for (;;) {
-        socket.connectToServer(m_socketPath, QIODevice::WriteOnly);
-        if (socket.waitForConnected(int(deadline.remainingTime())))
-            break;
+    // The first instance may have its lock and not its socket yet, or be about to end.
+    while (!isAnswered(call, deadline)) {
+        m_first = takeLock();
+        if (m_first)
+            return listen();
         if (deadline.hasExpired())
             return;
         QThread::msleep(kPause);
     }
-    socket.write(activationToken.left(kLongestToken));
-    socket.disconnectFromServer();
-    if (socket.state() != QLocalSocket::UnconnectedState)
-        socket.waitForDisconnected(int(deadline.remainingTime()));
+}
+
+bool SingleInstance::isAnswered(const QByteArray &call, const QDeadlineTimer &deadline) const
+{
+    QLocalSocket first;
+    first.connectToServer(m_socketPath);
+    if (!first.waitForConnected(int(deadline.remainingTime())))
+        return false;
+    first.write(call);
+    return first.waitForReadyRead(int(deadline.remainingTime()));
 }

@@ -1,30 +1,33 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QLocalServer>
+#include <QLocalSocket>
 #include <QLockFile>
 #include <QObject>
 
 /// The rule that one user runs one camera.
 ///
-/// An exclusive lock file in the user's runtime folder decides; a lock that a killed process left
-/// behind is no hindrance. The first instance listens on a local socket beside it, so that later
-/// ones can ask it to come to the front.
+/// An exclusive lock file in the user's runtime folder decides, or in the data folder where the
+/// system has no fit one; a lock that a killed process left behind is no hindrance. The first
+/// instance listens on a local socket beside it, so that later ones can ask it to come to the
+/// front: a call is one line, and so is its answer.
 class SingleInstance : public QObject
 {
     Q_OBJECT
 public:
-    /// Tries to be the first. A runtime folder that can't be written to keeps nobody out: then
+    /// Tries to be the first. A folder that can't be written to keeps nobody out: then
     /// this instance counts as the first, and can't be called.
     explicit SingleInstance(QObject *parent = nullptr);
     /// The same with another folder for lock and socket.
     explicit SingleInstance(const QString &folder, QObject *parent = nullptr);
-    ~SingleInstance() override;
 
     [[nodiscard]] bool isFirst() const { return m_first; }
 
-    /// Asks the first instance to come to the front, and waits until the message is delivered or
-    /// two seconds have passed. `activationToken` is the desktop's permission to do so; it may be
-    /// empty.
+    /// Asks the first instance to come to the front, and waits until it has answered or two seconds
+    /// have passed. If it ends meanwhile without an answer, this instance takes its place and
+    /// isFirst() from then on. `activationToken` is the desktop's permission to come to the front,
+    /// without line ends; it may be empty.
     void callFirst(const QByteArray &activationToken);
 
 Q_SIGNALS:
@@ -34,6 +37,8 @@ Q_SIGNALS:
 private:
     [[nodiscard]] bool takeLock();
     void listen();
+    void hear(QLocalSocket *caller);
+    [[nodiscard]] bool isAnswered(const QByteArray &call, const QDeadlineTimer &deadline) const;
 
     QString m_socketPath;
     QLockFile m_lock;
