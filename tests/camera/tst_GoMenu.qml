@@ -22,6 +22,8 @@ TestCase {
         World.begin();
         menu = createTemporaryObject(menus, test);
     }
+    readonly property var screens: World.screens()
+
     function entries() {
         const items = [];
         for (let i = 0; i < menu.count; ++i)
@@ -38,14 +40,13 @@ TestCase {
 
     function test_has_its_entries_in_their_order() {
         compare(entries().map(shown),
-                ["Campus", "Course", "Exposure Lab", "Lens Lab", "History", "Gear Encyclopedia",
-                 "Workflows & Software", "Video Library", "My Notes & Progress", "-",
+                [...screens.map(screen => screen.title), "-",
                  "Previous Screen", "Next Screen", "Continue the Course"]);
     }
 
     function test_has_its_keys() {
         compare(entries().slice(0, 9).map(item => item.action.shortcut),
-                [1, 2, 3, 4, 5, 6, 7, 8, 9].map(digit => "Ctrl+" + digit));
+                screens.slice(0, 9).map((screen, i) => "Ctrl+" + (i + 1)));
         compare(entry("Previous Screen").action.shortcut, "Ctrl+[");
         compare(entry("Next Screen").action.shortcut, "Ctrl+]");
         compare(entry("Continue the Course").action.shortcut, "Ctrl+K");
@@ -56,7 +57,7 @@ TestCase {
         entry("Exposure Lab").action.trigger();
         compare(AppModel.screen, HVScreen.Exposure);
         compare(AppModel.globalQuery, "iso");
-        entries().slice(0, 9).forEach(item => {
+        entries().slice(0, screens.length).forEach(item => {
             item.action.trigger();
             compare(AppModel.screenTitle, shown(item));
         });

@@ -14,17 +14,7 @@ TestCase {
     height: 800
     visible: true
 
-    readonly property var screens: [
-        { screen: HVScreen.Home, title: "Campus", symbol: "building.columns" },
-        { screen: HVScreen.Course, title: "Course", symbol: "graduationcap" },
-        { screen: HVScreen.Exposure, title: "Exposure Lab", symbol: "camera.aperture" },
-        { screen: HVScreen.Lens, title: "Lens Lab", symbol: "circle.circle" },
-        { screen: HVScreen.History, title: "History", symbol: "clock.arrow.circlepath" },
-        { screen: HVScreen.Gear, title: "Gear Encyclopedia", symbol: "books.vertical" },
-        { screen: HVScreen.Workflow, title: "Workflows & Software", symbol: "arrow.triangle.branch" },
-        { screen: HVScreen.Videos, title: "Video Library", symbol: "play.rectangle" },
-        { screen: HVScreen.Notes, title: "My Notes & Progress", symbol: "note.text" },
-    ]
+    readonly property var screens: World.screens()
 
     Component {
         id: rails

@@ -130,6 +130,17 @@ QString QuickWorld::noteTarget() const
     return note ? note->targetType + u' ' + note->targetID : u"none"_s;
 }
 
+QVariantList QuickWorld::screens() const
+{
+    QVariantList rows;
+    for (const ScreenInfo &info : allScreens()) {
+        rows.append(QVariantMap{ { u"screen"_s, int(info.screen) }, { u"title"_s, info.title },
+            { u"shortTitle"_s, info.shortTitle }, { u"symbol"_s, info.symbol },
+            { u"component"_s, info.component } });
+    }
+    return rows;
+}
+
 void QuickWorld::chooseTheme(const QString &id)
 {
     CRVNThemes::setCurrentID(id);

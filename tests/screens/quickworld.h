@@ -8,6 +8,7 @@
 #include <QQuickItem>
 #include <QString>
 #include <QStringList>
+#include <QVariantList>
 
 #include <memory>
 
@@ -40,6 +41,9 @@ public:
     Q_INVOKABLE void tell(const QString &message);
     /// Type and id of the target of the note that is being written.
     Q_INVOKABLE [[nodiscard]] QString noteTarget() const;
+
+    /// The rows of the table of screens: screen, title, shortTitle, symbol and component of each.
+    Q_INVOKABLE [[nodiscard]] QVariantList screens() const;
 
     Q_INVOKABLE void chooseTheme(const QString &id);
     Q_INVOKABLE [[nodiscard]] QString copiedText() const;
