@@ -15,10 +15,10 @@ class AppModel;
 struct Shot {
     enum class Subject { Camera, HelpCredits, TripodDiagram };
 
-    QString name;                            ///< Of the file, without ".png".
+    QString name;                                ///< Of the file, without ".png".
     QSize size = Geometry::usualWindow.toSize(); ///< Pixels.
-    QString themeID;                         ///< Empty keeps the theme of the shot before.
-    std::function<void(AppModel &)> arrange; ///< Puts the model in the state of the picture.
+    QString themeID;                             ///< Empty keeps the theme of the shot before.
+    std::function<void(AppModel &)> arrange;     ///< Puts the model in the state of the picture.
     bool online = true;
     Subject subject = Subject::Camera;
 };

@@ -163,22 +163,53 @@ TEST(Palette, HandsOutItsMixturesAsOpaqueColors)
     }
 }
 
-TEST(Palette, ShowsQMLTheSameColors)
+TEST(Palette, LaysItsTintsThinlyOverWhatIsThere)
 {
     const HVColors c(brass());
-    const QHash<QByteArray, QColor> members = { { "body", c.body() }, { "bodyHi", c.bodyHi() },
-        { "bodyLo", c.bodyLo() }, { "leather", c.leather() }, { "engrave", c.engrave() },
-        { "oled", c.oled() }, { "oledCard", c.oledCard() }, { "oledText", c.oledText() },
-        { "oledDim", c.oledDim() }, { "glow", c.glow() }, { "accent", c.accent() },
-        { "good", c.good() }, { "warn", c.warn() }, { "bad", c.bad() } };
-    const QMetaObject &meta = HVColors::staticMetaObject;
-    EXPECT_EQ(meta.propertyCount(), members.size());
-    for (int i = 0; i < meta.propertyCount(); ++i) {
-        const QMetaProperty property = meta.property(i);
-        ASSERT_TRUE(members.contains(property.name())) << property.name();
-        EXPECT_EQ(property.readOnGadget(&c).value<QColor>(), members.value(property.name()))
-            << property.name();
+    const struct {
+        QColor tint;
+        QColor of;
+        float opacity;
+    } kTints[] = {
+        { c.hover(), c.glow(), 0.07f },
+        { c.quiet(), c.glow(), 0.1f },
+        { c.quietUnderPointer(), c.glow(), 0.2f },
+        { c.track(), c.glow(), 0.12f },
+        { c.divider(), c.glow(), 0.15f },
+        { c.cardEdge(), c.glow(), 0.16f },
+        { c.cardEdgeRaised(), c.glow(), 0.4f },
+        { c.fieldEdge(), c.glow(), 0.3f },
+        { c.halo(), c.glow(), 0.25f },
+        { c.haloRaised(), c.glow(), 0.45f },
+        { c.titleHalo(), c.glow(), 0.5f },
+        { c.buttonEdge(), c.glow(), 0.55f },
+        { c.pilot(), c.accent(), 0.55f },
+        { c.keyTop(), c.accent(), 0.95f },
+        { c.selection(), c.accent(), 0.75f },
+        { c.fieldFill(), c.oled(), 0.45f },
+        { c.contents(), c.oledCard(), 0.6f },
+        { c.callout(), c.warn(), 0.08f },
+    };
+    for (const auto &[tint, of, opacity] : kTints) {
+        EXPECT_NEAR(tint.alphaF(), opacity, 1.0 / 65535);
+        EXPECT_EQ(tint.rgb(), of.rgb());
     }
+}
+
+TEST(Palette, ShowsQMLItsColors)
+{
+    const HVColors c(brass());
+    const QMetaObject &meta = HVColors::staticMetaObject;
+    const auto shown = [&](const char *name) {
+        return meta.property(meta.indexOfProperty(name)).readOnGadget(&c).value<QColor>();
+    };
+    for (int i = 0; i < meta.propertyCount(); ++i)
+        EXPECT_TRUE(shown(meta.property(i).name()).isValid()) << meta.property(i).name();
+    EXPECT_EQ(shown("bodyHi"), c.bodyHi());
+    EXPECT_EQ(shown("bodyLo"), c.bodyLo());
+    EXPECT_EQ(shown("oledDim"), c.oledDim());
+    EXPECT_EQ(shown("glow"), c.glow());
+    EXPECT_EQ(shown("callout"), c.callout());
 }
 
 TEST(Palette, ByDefaultIsThatOfTheSelectedTheme)
@@ -224,6 +255,26 @@ TEST(PaletteContrast, GlowReadsOnTheDisplayInEveryTheme)
             << qPrintable(theme.id);
         EXPECT_GE(RGB::contrast(c.glowRGB(), HVColors::oledCardRGB), kOtherText)
             << qPrintable(theme.id);
+    }
+}
+
+TEST(PaletteContrast, TextReadsOnItsTintsInEveryTheme)
+{
+    const auto over = [](const RGB &ground, const RGB &color, double opacity) {
+        return RGB::mix(ground, color, opacity);
+    };
+    for (const CRVNTheme &theme : allThemes()) {
+        SCOPED_TRACE(qPrintable(theme.id));
+        const HVColors c(theme);
+        for (const RGB &ground : { HVColors::oledRGB, HVColors::oledCardRGB }) {
+            const RGB callout = over(ground, HVColors::warnRGB, c.callout().alphaF());
+            EXPECT_GE(RGB::contrast(HVColors::oledTextRGB, callout), kBodyText);
+            const RGB row = over(ground, c.glowRGB(), c.hover().alphaF());
+            EXPECT_GE(RGB::contrast(HVColors::oledTextRGB, row), kBodyText);
+            EXPECT_GE(RGB::contrast(c.glowRGB(), row), kOtherText);
+            const RGB button = over(ground, c.glowRGB(), c.quiet().alphaF());
+            EXPECT_GE(RGB::contrast(c.glowRGB(), button), kOtherText);
+        }
     }
 }
 

@@ -526,8 +526,8 @@ TEST_F(OpenProgressFile, LeavesWhatStandsBesideTheFolderThatALinkLeadsToUntouche
     ASSERT_TRUE(QFile::link(elsewhere.path(u"inside"_s), folder.path(u"link"_s)));
     writeFile(elsewhere.path(kName + u"-wal"_s), "all that is left of a progress file");
     const Fingerprint before = fingerprint(elsewhere.path());
-    EXPECT_TRUE(errorOf(
-        [&] { static_cast<void>(openProgressFile(folder.url(u"link/../"_s + kName))); }));
+    EXPECT_TRUE(
+        errorOf([&] { static_cast<void>(openProgressFile(folder.url(u"link/../"_s + kName))); }));
     EXPECT_EQ(fingerprint(elsewhere.path()), before);
 }
 
