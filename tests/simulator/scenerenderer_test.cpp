@@ -2,6 +2,7 @@
 
 #include "simulator/exposure.h"
 #include "simulator/plainrenderer.h"
+#include "support/sampling.h"
 
 #include <hwy/targets.h>
 
@@ -177,7 +178,10 @@ std::vector<Case> cases()
     return all;
 }
 
-INSTANTIATE_TEST_SUITE_P(Settings, SceneRendererAgainstPlain, testing::ValuesIn(cases()));
+// The sample has each way of blurring a disc, a streak alone, both ends of the exposures and
+// pictures of other shapes.
+INSTANTIATE_TEST_SUITE_P(
+    Settings, SceneRendererAgainstPlain, testing::ValuesIn(everyNthIfSanitized(cases(), 7)));
 
 TEST(SceneRenderer, IsComparedAtSixtySettingsOrMore)
 {
