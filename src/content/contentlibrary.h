@@ -21,7 +21,7 @@ class ContentLibrary
 public:
     /// An article, event, film or program that a search has found.
     struct Hit {
-        QString kind; ///< "lesson", "gear", "history", "video" or "software".
+        QString kind; ///< One of ContentKind.
         QString ref;  ///< Its id among those of its kind.
         QString title;
         QString snippet; ///< At most 14 words of its text, around the words found if they're there.

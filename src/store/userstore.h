@@ -2,8 +2,8 @@
 // lessons, quiz scores, bookmarks and notes.
 //
 // Target hv_store. There is no cache: each read goes to the file, so another process's writes show
-// at once. What a bookmark or note is about is a pair of texts, a type ("lesson", "gear",
-// "history", "video" or "general") and an id; nothing checks that the course still has it.
+// at once. What a bookmark or note is about is a pair of texts, a type (one of ContentKind) and an
+// id; nothing checks that the course still has it.
 //
 // Reads never fail outwards: what can't be read is empty, so that a damaged table doesn't take a
 // screen down. Writes throw HVError and then have changed nothing, neither the file nor revision().
