@@ -64,7 +64,8 @@ public:
 
     /// Opens the progress file, creating it and the folders above it where they are missing; a new
     /// file is readable by its owner only. Throws HVError if the file can't be opened, which may
-    /// have changed it by then: openProgressFile() is the way to open a file of unknown origin.
+    /// have changed it by then: Store::openProgressFile() is the way to open a file of unknown
+    /// origin.
     explicit UserStore(const QUrl &url);
 
     /// The store of this process; null until one is set, and after null has been.
