@@ -107,9 +107,11 @@ public:
         const std::optional<QString> &targetID = std::nullopt) const;
 
     /// Saves a note as new if its id is 0, else the body of the note with that id. The body loses
-    /// the blanks and line ends at both its ends. Afterwards the id, body and dates of `note` are
-    /// those in the file; if the call throws, it is as it was. Refuses an empty body, one beyond
-    /// longestNote, and an id that is no longer there (HVError::Kind::NotFound).
+    /// the blanks and line ends at both its ends. Afterwards `note` has the id, body and date of
+    /// change that stand in the file, and a new one its date of creation too; an older one keeps
+    /// the date of creation that it was handed in with, as it does its target. If the call throws,
+    /// `note` is as it was. Refuses an empty body, one beyond longestNote, and an id that is no
+    /// longer there (HVError::Kind::NotFound).
     void save(Note &note);
 
     /// Deletes a note; one that is gone already is no failure.
