@@ -183,8 +183,7 @@ TEST_F(HVInfoPlaces, AProgressFileWhoseNameBeginsWithAColonStandsInTheWorkingFol
 {
     const WorkingFolder here(home.path());
     const EnvironmentVariable path("HV_DB_PATH", u":mine.sqlite"_s);
-    EXPECT_EQ(
-        HVInfo::databaseURL(), QUrl::fromLocalFile(QDir::currentPath() + u"/:mine.sqlite"_s));
+    EXPECT_EQ(HVInfo::databaseURL(), QUrl::fromLocalFile(QDir::currentPath() + u"/:mine.sqlite"_s));
 }
 
 TEST_F(HVInfoPlaces, AContentFolderWhoseNameBeginsWithAColonStandsInTheWorkingFolder)

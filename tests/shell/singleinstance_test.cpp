@@ -96,9 +96,8 @@ protected:
     // loop.
     [[nodiscard]] std::future<void> call(const QByteArray &token) const
     {
-        return std::async(std::launch::async, [path = folder.path(), token] {
-            SingleInstance(path).callFirst(token);
-        });
+        return std::async(std::launch::async,
+            [path = folder.path(), token] { SingleInstance(path).callFirst(token); });
     }
 
     [[nodiscard]] QString lockFile() const { return folder.path(u"crvn-halvorin.lock"_s); }

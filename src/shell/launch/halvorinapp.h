@@ -41,7 +41,7 @@ private:
     void tidyEnvironment() const;
 
     std::optional<QByteArray> m_fontResolution; ///< As the user has set it, if at all.
-    std::optional<int> m_status; ///< Set once there is nothing left to do.
+    std::optional<int> m_status;                ///< Set once there is nothing left to do.
     std::unique_ptr<QGuiApplication> m_application;
     std::unique_ptr<SingleInstance> m_instance;
     std::unique_ptr<QQmlEngine> m_engine;
