@@ -74,7 +74,7 @@ void BM_ReadCourse(benchmark::State &state)
         course = {};
         emptyHeap();
         state.ResumeTiming();
-        course = readCourse(folder.path());
+        course = Content::readCourse(folder.path());
         if (!course.loadErrors.isEmpty())
             state.SkipWithError("The course can't be read.");
     }

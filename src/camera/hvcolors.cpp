@@ -14,8 +14,17 @@ constexpr RGB kBlack{ 0, 0, 0 };
 const QList<CRVNTheme> &HVThemes::extras()
 {
     static const QList<CRVNTheme> themes = {
-        { brassID, u"Medium Format Black & Brass"_s, CRVNTheme::Family::extra, RGB(0x0C0B0A),
-            RGB(0x2E2A25), RGB(0x161412), RGB(0xFAF6EE), RGB(0xC9BDA6), RGB(0x8A6420) },
+        {
+            .id = brassID,
+            .name = u"Medium Format Black & Brass"_s,
+            .family = CRVNTheme::Family::extra,
+            .bg = RGB(0x0C0B0A),
+            .panelTop = RGB(0x2E2A25),
+            .panelBottom = RGB(0x161412),
+            .text = RGB(0xFAF6EE),
+            .dim = RGB(0xC9BDA6),
+            .accent = RGB(0x8A6420),
+        },
     };
     return themes;
 }

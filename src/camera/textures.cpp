@@ -63,7 +63,7 @@ QImage pebbles(double scale)
     return tile;
 }
 
-// A picture in one colour, where it has been painted.
+// A picture in one color, where it has been painted.
 QImage tinted(QImage picture, const QColor &tint)
 {
     QPainter painter(&picture);

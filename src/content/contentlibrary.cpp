@@ -29,7 +29,7 @@ QList<Value> inModule(const QList<Value> &values, QStringView moduleID)
 } // namespace
 
 ContentLibrary::ContentLibrary(const QString &folder)
-    : m_course(readCourse(folder))
+    : m_course(Content::readCourse(folder))
 { }
 
 const ContentLibrary &ContentLibrary::shared()

@@ -9,7 +9,8 @@
 #include <optional>
 
 /// The whole course, read from the text files of one folder and unchanged from then on, with an
-/// index to search it by. For one thread: searching moves the index's database.
+/// index to search it by. It may be made in one thread and used in another; several may look things
+/// up at once, but only one may search, which moves the index's database.
 ///
 /// The index takes five times as long as all else, and the first screen shows without it. So it is
 /// made when something first asks for it, which any thread may do.
@@ -21,7 +22,7 @@ class ContentLibrary
 public:
     /// An article, event, film or program that a search has found.
     struct Hit {
-        QString kind; ///< "lesson", "gear", "history", "video" or "software".
+        QString kind; ///< One of ContentKind.
         QString ref;  ///< Its id among those of its kind.
         QString title;
         QString snippet; ///< At most 14 words of its text, around the words found if they're there.
@@ -37,8 +38,8 @@ public:
     Q_DISABLE_COPY_MOVE(ContentLibrary)
     ~ContentLibrary() = default;
 
-    /// The course of this process, read from HVInfo::contentFolder() on first use.
-    /// For the main thread only.
+    /// The course of this process, read from HVInfo::contentFolder() on first use, which may be in
+    /// any thread as long as no other asks for it until then.
     [[nodiscard]] static const ContentLibrary &shared();
 
     /// Puts another course in the place of the shared one, which ends all references to that; with

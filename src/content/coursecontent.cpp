@@ -225,7 +225,7 @@ QList<Value> valuesOf(
 
 } // namespace
 
-CourseContent readCourse(const QString &folder)
+CourseContent Content::readCourse(const QString &folder)
 {
     CourseContent course;
     const QDir directory(folder);

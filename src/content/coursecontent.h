@@ -26,6 +26,8 @@ struct CourseContent {
     QStringList loadErrors;
 };
 
+namespace Content {
+
 /// Reads the course files of a folder in a time that grows with their length alone. Never fails:
 /// what is missing or no whole number gets the default of its record's field, and only a file that
 /// can't be read leaves a trace, in `loadErrors`.
@@ -46,3 +48,5 @@ struct CourseContent {
 /// videos.tsv is a table with tabs between its columns. Its first line is skipped as headings, and
 /// so is each line with fewer columns than these or with an empty id.
 [[nodiscard]] CourseContent readCourse(const QString &folder);
+
+} // namespace Content

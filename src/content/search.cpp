@@ -1,5 +1,6 @@
 #include "content/contentlibrary.h"
 
+#include "content/contentkind.h"
 #include "content/text.h"
 
 #include <algorithm>
@@ -72,18 +73,18 @@ ContentLibrary::Index ContentLibrary::makeIndex() const
         index->exec(kCreate);
         index->transaction([&] {
             for (const Lesson &lesson : lessons())
-                insert(u"lesson"_s, lesson.id, lesson.title, {}, lesson.body);
+                insert(ContentKind::lesson, lesson.id, lesson.title, {}, lesson.body);
             for (const GearEntry &entry : gear())
-                insert(u"gear"_s, entry.id, entry.name, entry.aka + u' ' + entry.category,
+                insert(ContentKind::gear, entry.id, entry.name, entry.aka + u' ' + entry.category,
                     searchableText(entry));
             for (const TimelineEvent &event : timeline())
-                insert(u"history"_s, event.id, event.title, event.dateText + u' ' + event.era,
-                    event.body);
+                insert(ContentKind::history, event.id, event.title,
+                    event.dateText + u' ' + event.era, event.body);
             for (const Video &video : videos())
-                insert(u"video"_s, video.id, video.title, video.channel, video.topic);
+                insert(ContentKind::video, video.id, video.title, video.channel, video.topic);
             for (const Software &program : software())
-                insert(u"software"_s, program.id, program.name, program.maker + u' ' + program.kind,
-                    program.body);
+                insert(ContentKind::software, program.id, program.name,
+                    program.maker + u' ' + program.kind, program.body);
         });
     } catch (const HVError &error) {
         return { .error = u"search index: " + error.description() };

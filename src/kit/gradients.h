@@ -8,7 +8,7 @@
 class QPainter;
 
 /// A brush that runs down `area` from `top` over an optional `middle` to `bottom`; an invalid
-/// `bottom` gives the flat colour `top`.
+/// `bottom` gives the flat color `top`.
 [[nodiscard]] QBrush verticalBrush(
     const QRectF &area, const QColor &top, const QColor &middle, const QColor &bottom);
 

@@ -35,7 +35,7 @@ struct Plane {
 }
 
 // A box blur of 2 · reach + 1 pixels along the columns; beyond the ends lies transparency. All
-// columns advance together, a row at a time: running sums over neighbouring bytes, which the
+// columns advance together, a row at a time: running sums over neighboring bytes, which the
 // compiler turns into vector arithmetic.
 void blurColumns(Plane &plane, int reach)
 {

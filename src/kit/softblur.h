@@ -6,7 +6,7 @@
 
 #include <future>
 
-/// Blurs the opacity of a picture and fills it with one colour.
+/// Blurs the opacity of a picture and fills it with one color.
 ///
 /// mask     any format; only its alpha channel counts. Leave `radius` pixels of empty margin on
 ///          all sides, or the blur is cut off there.

@@ -1,5 +1,6 @@
 #include "selfcheck/snapshot.h"
 
+#include "content/contentkind.h"
 #include "content/contentlibrary.h"
 #include "kit/preferences.h"
 #include "kit/stillness.h"
@@ -63,15 +64,15 @@ public:
                  qMin(kFinishedLessons, ContentLibrary::shared().lessons().size())))
             store.setComplete(lesson.id, true);
         store.saveQuiz(u"m02"_s, 5, 6, QDateTime::currentDateTimeUtc());
-        store.setBookmark(u"gear"_s, u"tripod"_s, true);
-        store.setBookmark(u"lesson"_s, u"m03.2"_s, true);
+        store.setBookmark(ContentKind::gear, u"tripod"_s, true);
+        store.setBookmark(ContentKind::lesson, u"m03.2"_s, true);
 
-        Note onLight{ .targetType = u"lesson"_s,
+        Note onLight{ .targetType = ContentKind::lesson,
             .targetID = u"m01.1"_s,
             .body = u"Light is the whole game. The camera only controls how much of it reaches "
                     "the sensor and for how long."_s };
         store.save(onLight);
-        Note onTripods{ .targetType = u"gear"_s,
+        Note onTripods{ .targetType = ContentKind::gear,
             .targetID = u"tripod"_s,
             .body = u"For the mountain overlooks: carbon legs, ball head, and an L-bracket so I "
                     "can flip to vertical fast."_s };

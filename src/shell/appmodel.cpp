@@ -1,5 +1,6 @@
 #include "shell/appmodel.h"
 
+#include "content/contentkind.h"
 #include "content/contentlibrary.h"
 #include "content/text.h"
 #include "store/hverror.h"
@@ -66,28 +67,28 @@ void AppModel::openSoftware(const QString &id)
 
 void AppModel::openHit(const QString &kind, const QString &ref)
 {
-    if (kind == "lesson"_L1)
+    if (kind == ContentKind::lesson)
         openLesson(ref);
-    else if (kind == "gear"_L1)
+    else if (kind == ContentKind::gear)
         openGear(ref);
-    else if (kind == "video"_L1)
+    else if (kind == ContentKind::video)
         openVideo(ref);
-    else if (kind == "history"_L1)
+    else if (kind == ContentKind::history)
         openEvent(ref);
-    else if (kind == "software"_L1)
+    else if (kind == ContentKind::software)
         openSoftware(ref);
     setGlobalQuery({});
 }
 
 void AppModel::openTarget(const QString &type, const QString &id)
 {
-    if (type == "lesson"_L1)
+    if (type == ContentKind::lesson)
         openLesson(id);
-    else if (type == "gear"_L1)
+    else if (type == ContentKind::gear)
         openGear(id);
-    else if (type == "video"_L1)
+    else if (type == ContentKind::video)
         openVideo(id);
-    else if (type == "history"_L1)
+    else if (type == ContentKind::history)
         openEvent(id);
     else
         setScreen(Screen::Notes);

@@ -53,7 +53,7 @@ void openStore()
 {
     const QUrl url = HVInfo::databaseURL();
     try {
-        UserStore::setShared(openProgressFile(url));
+        UserStore::setShared(Store::openProgressFile(url));
         return;
     } catch (const HVError &error) {
         tellLater("Your progress file could not be opened ("_L1 + error.description()
@@ -61,7 +61,7 @@ void openStore()
             + ". A new, empty progress file was started instead."_L1);
     }
     try {
-        UserStore::setShared(openProgressFile(stopgapURL()));
+        UserStore::setShared(Store::openProgressFile(stopgapURL()));
     } catch (const HVError &) {
         // One message is enough: without a store the program still teaches, it only forgets.
         UserStore::setShared(nullptr);

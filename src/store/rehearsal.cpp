@@ -218,7 +218,7 @@ std::unique_ptr<UserStore> openedOrUntouched(const QUrl &url, const QString &pat
 
 } // namespace
 
-std::unique_ptr<UserStore> openProgressFile(const QUrl &url)
+std::unique_ptr<UserStore> Store::openProgressFile(const QUrl &url)
 {
     const QFileInfo info(url.toLocalFile());
     // SQLite follows a link and has the companions beside the file that it leads to.

@@ -9,10 +9,15 @@
 
 #include <memory>
 
+namespace Store {
+
 /// Opens the progress file at `url` as the launch does. A missing or empty file becomes a new
 /// progress file. Throws HVError if there is a file that can't be opened; it keeps every byte then,
-/// as do its companions ("-wal", "-shm", "-journal"), and no companion is added.
+/// as do its companions ("-wal", "-shm", "-journal"). Companions and files that the opening itself
+/// has made are taken away again, unless another process keeps the file busy.
 ///
 /// The file must not be open in this process yet: reading it for the copy would drop the locks that
 /// the process holds on it. Other processes may have it open.
 [[nodiscard]] std::unique_ptr<UserStore> openProgressFile(const QUrl &url);
+
+} // namespace Store

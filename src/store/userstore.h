@@ -2,8 +2,8 @@
 // lessons, quiz scores, bookmarks and notes.
 //
 // Target hv_store. There is no cache: each read goes to the file, so another process's writes show
-// at once. What a bookmark or note is about is a pair of texts, a type ("lesson", "gear",
-// "history", "video" or "general") and an id; nothing checks that the course still has it.
+// at once. What a bookmark or note is about is a pair of texts, a type (one of ContentKind) and an
+// id; nothing checks that the course still has it.
 //
 // Reads never fail outwards: what can't be read is empty, so that a damaged table doesn't take a
 // screen down. Writes throw HVError and then have changed nothing, neither the file nor revision().
@@ -64,7 +64,8 @@ public:
 
     /// Opens the progress file, creating it and the folders above it where they are missing; a new
     /// file is readable by its owner only. Throws HVError if the file can't be opened, which may
-    /// have changed it by then: openProgressFile() is the way to open a file of unknown origin.
+    /// have changed it by then: Store::openProgressFile() is the way to open a file of unknown
+    /// origin.
     explicit UserStore(const QUrl &url);
 
     /// The store of this process; null until one is set, and after null has been.
@@ -106,9 +107,11 @@ public:
         const std::optional<QString> &targetID = std::nullopt) const;
 
     /// Saves a note as new if its id is 0, else the body of the note with that id. The body loses
-    /// the blanks and line ends at both its ends. Afterwards the id, body and dates of `note` are
-    /// those in the file; if the call throws, it is as it was. Refuses an empty body, one beyond
-    /// longestNote, and an id that is no longer there (HVError::Kind::NotFound).
+    /// the blanks and line ends at both its ends. Afterwards `note` has the id, body and date of
+    /// change that stand in the file, and a new one its date of creation too; an older one keeps
+    /// the date of creation that it was handed in with, as it does its target. If the call throws,
+    /// `note` is as it was. Refuses an empty body, one beyond longestNote, and an id that is no
+    /// longer there (HVError::Kind::NotFound).
     void save(Note &note);
 
     /// Deletes a note; one that is gone already is no failure.

@@ -20,7 +20,7 @@ constexpr QStringView kBlanks = u"\u0009\u0020\u00A0\u1680\u2000\u2001\u2002\u20
 constexpr QStringView kLineEnds = u"\u000A\u000B\u000C\u000D\u0085\u2028\u2029";
 
 // Next to blanks in the code table or often taken for them: the controls around the tab and the
-// line ends, the Mongolian vowel separator, the zero width space and its neighbours, the word
+// line ends, the Mongolian vowel separator, the zero width space and its neighbors, the word
 // joiner and the byte order mark.
 constexpr QStringView kNoBlanks = u"\u0000\u0008\u000E\u001C\u001D\u001E\u001F\u0021\u007F\u0084"
                                   u"\u0086\u009F\u00A1\u180E\u1FFF\u200B\u200E\u2027\u202A\u202E"

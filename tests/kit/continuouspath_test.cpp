@@ -144,7 +144,7 @@ TEST(ContinuousPath, OfALongRectangleWithHalfItsHeightIsACapsule)
 {
     const QPainterPath path = continuousPath({ 0, 0, 200, 60 }, 30);
     for (const QPointF point : pointsAlong(path)) {
-        // Distance from the segment between the centres of the two round ends.
+        // Distance from the segment between the centers of the two round ends.
         const QPointF nearest(std::clamp(point.x(), 30.0, 170.0), 30);
         EXPECT_NEAR(length(point - nearest), 30, 0.012);
     }

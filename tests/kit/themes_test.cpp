@@ -8,6 +8,7 @@
 
 #include <cmath>
 #include <limits>
+#include <type_traits>
 
 using namespace Qt::StringLiterals;
 
@@ -32,7 +33,7 @@ QStringList idsOf(const QList<CRVNTheme> &themes)
 
 CRVNTheme themeWithID(const QString &id)
 {
-    CRVNTheme theme;
+    CRVNTheme theme = CRVNThemes::builtIn().first();
     theme.id = id;
     theme.name = u"A theme named "_s + id;
     return theme;
@@ -50,6 +51,12 @@ protected:
 };
 
 } // namespace
+
+TEST(ThemeColor, IsGivenAndNeverBlackByOmission)
+{
+    EXPECT_FALSE(std::is_default_constructible_v<RGB>);
+    EXPECT_FALSE(std::is_default_constructible_v<CRVNTheme>);
+}
 
 TEST(ThemeColor, TakesItsComponentsFromTheBytesOfAHexNumber)
 {

@@ -73,7 +73,7 @@ QStringList linesAboutAll()
     return lines;
 }
 
-bool hasSeveralColours(const QImage &image)
+bool hasSeveralColors(const QImage &image)
 {
     const QRgb first = image.pixel(0, 0);
     for (int y = 0; y < image.height(); ++y) {
@@ -191,7 +191,7 @@ TEST_F(Snapshot, NoPictureIsEmpty)
 {
     ASSERT_EQ(plain().status, 0);
     for (const Picture &picture : kPictures)
-        EXPECT_TRUE(hasSeveralColours(plainPicture(picture.name))) << qPrintable(picture.name);
+        EXPECT_TRUE(hasSeveralColors(plainPicture(picture.name))) << qPrintable(picture.name);
 }
 
 TEST_F(Snapshot, TheSameScreenLooksDifferentInAnotherTheme)

@@ -1,6 +1,7 @@
 #include "shell/appmodel.h"
 
 #include "content/contentlibrary.h"
+#include "shell/screenprinter.h"
 #include "store/hverror.h"
 #include "store/sqlitedb.h"
 #include "store/storetesting.h"
@@ -15,13 +16,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace StoreTesting;
-
-namespace HVScreen {
-void PrintTo(Screen screen, std::ostream *out)
-{
-    *out << screenInfo(screen).rawValue.toStdString();
-}
-} // namespace HVScreen
 
 namespace {
 

@@ -1,17 +1,11 @@
 #include "shell/screen.h"
 
+#include "shell/screenprinter.h"
 #include "support/qtprinters.h"
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
-
-namespace HVScreen {
-void PrintTo(Screen screen, std::ostream *out)
-{
-    *out << "screen " << int(screen);
-}
-} // namespace HVScreen
 
 namespace {
 

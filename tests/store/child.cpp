@@ -44,7 +44,8 @@ int open(const QUrl &file, bool asLaunch)
     say(u"ready"_s);
     waitForRelease();
     try {
-        const auto store = asLaunch ? openProgressFile(file) : std::make_unique<UserStore>(file);
+        const auto store
+            = asLaunch ? Store::openProgressFile(file) : std::make_unique<UserStore>(file);
         say(u"opened"_s);
         return 0;
     } catch (const HVError &error) {

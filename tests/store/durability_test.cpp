@@ -205,7 +205,7 @@ TEST(Durability, ALaunchBesideAWritingProcessSucceedsAndLosesNothing)
     for (int launch = 0; launch < 50; ++launch) {
         writer.request();
         std::unique_ptr<UserStore> store;
-        EXPECT_EQ(errorOf([&] { store = openProgressFile(file); }), std::nullopt);
+        EXPECT_EQ(errorOf([&] { store = Store::openProgressFile(file); }), std::nullopt);
         acknowledged.append(writer.line().value_or(u"no write"_s));
     }
     EXPECT_EQ(missing(UserStore(file), acknowledged), QStringList());
@@ -239,7 +239,7 @@ TEST(Durability, EveryAcknowledgedWriteOutlivesAKill)
 
             if (kill % killsBetweenLooks == 0) {
                 ASSERT_EQ(integrity(file), u"ok"_s);
-                ASSERT_EQ(missing(*openProgressFile(file), acknowledged), QStringList());
+                ASSERT_EQ(missing(*Store::openProgressFile(file), acknowledged), QStringList());
             }
         }
         EXPECT_GE(acknowledged.size(), killsOfEachFile);
@@ -266,7 +266,7 @@ TEST(Durability, AFileWhoseFirstOpeningWasKilledOpens)
         static_cast<void>(child.remainingLines());
 
         std::unique_ptr<UserStore> store;
-        ASSERT_EQ(errorOf([&] { store = openProgressFile(file); }), std::nullopt);
+        ASSERT_EQ(errorOf([&] { store = Store::openProgressFile(file); }), std::nullopt);
         store->setComplete(u"m01.1"_s, true);
         EXPECT_TRUE(store->isComplete(u"m01.1"_s));
     }

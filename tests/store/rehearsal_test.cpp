@@ -138,7 +138,7 @@ protected:
     void expectRefusedUntouched() const
     {
         const Fingerprint before = fingerprint(folder.path());
-        const auto error = errorOf([&] { static_cast<void>(openProgressFile(url)); });
+        const auto error = errorOf([&] { static_cast<void>(Store::openProgressFile(url)); });
         ASSERT_TRUE(error);
         EXPECT_EQ(error->kind(), HVError::Kind::Database);
         EXPECT_EQ(fingerprint(folder.path()), before);
@@ -267,7 +267,7 @@ protected:
         std::optional<HVError> error;
         {
             const OrdinaryUser user;
-            error = errorOf([&] { static_cast<void>(openProgressFile(url)); });
+            error = errorOf([&] { static_cast<void>(Store::openProgressFile(url)); });
         }
         EXPECT_TRUE(error);
         EXPECT_EQ(fingerprint(folder.path()), before);
@@ -290,7 +290,7 @@ TEST_F(OpenProgressFileAsOrdinaryUser, OpensAFileOpenToReadingAndWriting)
 {
     QFile::setPermissions(path, kReadable | kWritable);
     const OrdinaryUser user;
-    EXPECT_EQ(openProgressFile(url)->notes().size(), 20);
+    EXPECT_EQ(Store::openProgressFile(url)->notes().size(), 20);
 }
 
 TEST_F(OpenProgressFileAsOrdinaryUser, LeavesAFileItMayNotReadUntouched)
@@ -329,7 +329,7 @@ TEST_F(OpenProgressFile, OpensOursWhereNoCopyFits)
     {
         const FileSizeLimit limit(64 * 1024);
         ASSERT_GT(QFileInfo(path).size(), 64 * 1024);
-        store = openProgressFile(url);
+        store = Store::openProgressFile(url);
     }
     EXPECT_EQ(store->notes().size(), 20);
 }
@@ -340,7 +340,7 @@ TEST_F(OpenProgressFile, OpensOursWithAWalWhereNoCopyFits)
     std::unique_ptr<UserStore> store;
     {
         const FileSizeLimit limit(64 * 1024);
-        store = openProgressFile(url);
+        store = Store::openProgressFile(url);
     }
     EXPECT_EQ(store->notes().size(), 20);
 }
@@ -363,7 +363,7 @@ TEST_F(OpenProgressFile, LeavesNoNewFileWhereThereIsNoRoomForOne)
 {
     for (const rlim_t room : { rlim_t(0), kNoRoomForAnIndex }) {
         const FileSizeLimit limit(room);
-        EXPECT_TRUE(errorOf([&] { static_cast<void>(openProgressFile(url)); }));
+        EXPECT_TRUE(errorOf([&] { static_cast<void>(Store::openProgressFile(url)); }));
         EXPECT_EQ(fingerprint(folder.path()), Fingerprint());
     }
 }
@@ -374,7 +374,7 @@ TEST_F(OpenProgressFile, OpensOursInTheMiddleOfACheckpointWhereNoCopyFits)
     std::unique_ptr<UserStore> store;
     {
         const FileSizeLimit limit(64 * 1024);
-        store = openProgressFile(url);
+        store = Store::openProgressFile(url);
     }
     EXPECT_EQ(store->notes().size(), 40);
 }
@@ -415,13 +415,13 @@ TEST_F(OpenProgressFile, IsNeededSinceAStoreByItselfChangesAFileThatItCannotOpen
 TEST_F(OpenProgressFile, SaysWhatTheOpeningWouldHaveSaid)
 {
     makeForeign(path);
-    EXPECT_EQ(errorOf([&] { static_cast<void>(openProgressFile(url)); }),
+    EXPECT_EQ(errorOf([&] { static_cast<void>(Store::openProgressFile(url)); }),
         errorOf([&] { UserStore store(url); }));
 }
 
 TEST_F(OpenProgressFile, MakesANewFileWithItsFolders)
 {
-    const auto store = openProgressFile(folder.url(u"new/folder/Progress.sqlite"_s));
+    const auto store = Store::openProgressFile(folder.url(u"new/folder/Progress.sqlite"_s));
     store->setComplete(u"m01.1"_s, true);
     EXPECT_TRUE(QFileInfo(folder.path(u"new/folder/Progress.sqlite"_s)).isFile());
     EXPECT_TRUE(store->isComplete(u"m01.1"_s));
@@ -431,20 +431,21 @@ TEST_F(OpenProgressFile, FailsWhereNoFileCanBe)
 {
     writeFile(folder.path(u"file"_s), "in the way");
     const Fingerprint before = fingerprint(folder.path());
-    EXPECT_TRUE(errorOf(
-        [&] { static_cast<void>(openProgressFile(folder.url(u"file/Progress.sqlite"_s))); }));
+    EXPECT_TRUE(errorOf([&] {
+        static_cast<void>(Store::openProgressFile(folder.url(u"file/Progress.sqlite"_s)));
+    }));
     EXPECT_EQ(fingerprint(folder.path()), before);
 }
 
 TEST_F(OpenProgressFile, FailsForAnAddressThatIsNoFile)
 {
-    EXPECT_TRUE(errorOf([] { static_cast<void>(openProgressFile(QUrl())); }));
+    EXPECT_TRUE(errorOf([] { static_cast<void>(Store::openProgressFile(QUrl())); }));
 }
 
 TEST_F(OpenProgressFile, MakesAProgressFileOfAnEmptyFile)
 {
     writeFile(path, {});
-    openProgressFile(url)->setComplete(u"m01.1"_s, true);
+    Store::openProgressFile(url)->setComplete(u"m01.1"_s, true);
     EXPECT_TRUE(UserStore(url).isComplete(u"m01.1"_s));
 }
 
@@ -452,15 +453,15 @@ TEST_F(OpenProgressFile, OpensOurs)
 {
     makeOurs(path);
     const Fingerprint before = fingerprint(folder.path());
-    EXPECT_EQ(openProgressFile(url)->notes().size(), 20);
-    EXPECT_EQ(openProgressFile(url)->url(), url);
+    EXPECT_EQ(Store::openProgressFile(url)->notes().size(), 20);
+    EXPECT_EQ(Store::openProgressFile(url)->url(), url);
     EXPECT_EQ(fingerprint(folder.path()), before);
 }
 
 TEST_F(OpenProgressFile, OpensOursWithChangesStillInTheWal)
 {
     makeOursWithWal(path);
-    const QStringList bodies = noteBodies(*openProgressFile(url));
+    const QStringList bodies = noteBodies(*Store::openProgressFile(url));
     EXPECT_EQ(bodies.size(), 20);
     EXPECT_TRUE(bodies.contains(u"the last thought"_s));
 }
@@ -468,13 +469,13 @@ TEST_F(OpenProgressFile, OpensOursWithChangesStillInTheWal)
 TEST_F(OpenProgressFile, TakesBackAnUnfinishedChangeAndOpens)
 {
     makeWithHotJournal(path, makeOurs, u"DROP TABLE notes; CREATE TABLE notes (text)"_s);
-    EXPECT_EQ(openProgressFile(url)->notes().size(), 20);
+    EXPECT_EQ(Store::openProgressFile(url)->notes().size(), 20);
 }
 
 TEST_F(OpenProgressFile, AcceptsAForeignDatabaseWithoutAClashingTable)
 {
     SQLiteDB(path).exec(u"CREATE TABLE recipes (a); INSERT INTO recipes VALUES ('goulash')"_s);
-    openProgressFile(url)->setComplete(u"m01.1"_s, true);
+    Store::openProgressFile(url)->setComplete(u"m01.1"_s, true);
     EXPECT_TRUE(UserStore(url).isComplete(u"m01.1"_s));
     EXPECT_EQ(
         SQLiteDB(path).query(u"SELECT a FROM recipes"_s).constFirst().str(u"a"_s), u"goulash"_s);
@@ -487,7 +488,7 @@ TEST_F(OpenProgressFile, FollowsALinkAndLeavesItALink)
     makeOursWithWal(target);
     ASSERT_TRUE(QFile::link(target, path));
     const Fingerprint before = fingerprint(folder.path());
-    EXPECT_EQ(openProgressFile(url)->notes().size(), 20);
+    EXPECT_EQ(Store::openProgressFile(url)->notes().size(), 20);
     EXPECT_EQ(fingerprint(folder.path()), before);
 }
 
@@ -506,7 +507,7 @@ TEST_F(OpenProgressFile, MakesTheFileThatALinkLeadsTo)
 {
     const Folder elsewhere;
     ASSERT_TRUE(QFile::link(elsewhere.path(u"Real.sqlite"_s), path));
-    EXPECT_NE(openProgressFile(url), nullptr);
+    EXPECT_NE(Store::openProgressFile(url), nullptr);
     EXPECT_EQ(fingerprint(elsewhere.path()).keys(), QStringList{ u"Real.sqlite"_s });
 }
 
@@ -516,7 +517,7 @@ TEST_F(OpenProgressFile, OpensWhatStandsBesideTheFolderThatALinkLeadsTo)
     ASSERT_TRUE(QDir(elsewhere.path()).mkdir(u"inside"_s));
     ASSERT_TRUE(QFile::link(elsewhere.path(u"inside"_s), folder.path(u"link"_s)));
     makeOurs(elsewhere.path(kName));
-    EXPECT_EQ(openProgressFile(folder.url(u"link/../"_s + kName))->notes().size(), 20);
+    EXPECT_EQ(Store::openProgressFile(folder.url(u"link/../"_s + kName))->notes().size(), 20);
 }
 
 TEST_F(OpenProgressFile, LeavesWhatStandsBesideTheFolderThatALinkLeadsToUntouched)
@@ -526,8 +527,8 @@ TEST_F(OpenProgressFile, LeavesWhatStandsBesideTheFolderThatALinkLeadsToUntouche
     ASSERT_TRUE(QFile::link(elsewhere.path(u"inside"_s), folder.path(u"link"_s)));
     writeFile(elsewhere.path(kName + u"-wal"_s), "all that is left of a progress file");
     const Fingerprint before = fingerprint(elsewhere.path());
-    EXPECT_TRUE(
-        errorOf([&] { static_cast<void>(openProgressFile(folder.url(u"link/../"_s + kName))); }));
+    EXPECT_TRUE(errorOf(
+        [&] { static_cast<void>(Store::openProgressFile(folder.url(u"link/../"_s + kName))); }));
     EXPECT_EQ(fingerprint(elsewhere.path()), before);
 }
 
@@ -536,7 +537,7 @@ TEST_F(OpenProgressFile, MakesANewFileWithItsFoldersBesideTheFolderThatALinkLead
     const Folder elsewhere;
     ASSERT_TRUE(QDir(elsewhere.path()).mkdir(u"inside"_s));
     ASSERT_TRUE(QFile::link(elsewhere.path(u"inside"_s), folder.path(u"link"_s)));
-    EXPECT_NE(openProgressFile(folder.url(u"link/../new/Progress.sqlite"_s)), nullptr);
+    EXPECT_NE(Store::openProgressFile(folder.url(u"link/../new/Progress.sqlite"_s)), nullptr);
     EXPECT_TRUE(QFileInfo::exists(elsewhere.path(u"new/Progress.sqlite"_s)));
     EXPECT_FALSE(QFileInfo::exists(folder.path(u"new"_s)));
 }
@@ -553,7 +554,7 @@ TEST_F(OpenProgressFile, LeavesNothingBesideTheFileWhereTheTemporaryFolderIsMiss
     const EnvironmentVariable missing("TMPDIR", scratch.path(u"missing"_s));
     makeOurs(path);
     const Fingerprint before = fingerprint(folder.path());
-    EXPECT_EQ(openProgressFile(url)->notes().size(), 20);
+    EXPECT_EQ(Store::openProgressFile(url)->notes().size(), 20);
     EXPECT_EQ(fingerprint(folder.path()), before);
 }
 
@@ -565,6 +566,6 @@ TEST_F(OpenProgressFile, DoesNotCopyAFileFarLargerThanOurs)
     const std::filesystem::path temporary(scratch.path().toStdString());
     std::filesystem::last_write_time(temporary, longAgo);
 
-    EXPECT_EQ(openProgressFile(url)->notes().size(), 20);
+    EXPECT_EQ(Store::openProgressFile(url)->notes().size(), 20);
     EXPECT_EQ(std::filesystem::last_write_time(temporary), longAgo); // no copy came and went
 }

@@ -5,7 +5,7 @@
 
 #include "camera/hvcolors.h"
 
-/// A surface that is painted in the colours of the palette `c`.
+/// A surface that is painted in the colors of the palette `c`.
 class CameraSurface : public PaintedItem
 {
     Q_OBJECT

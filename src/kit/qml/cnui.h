@@ -1,4 +1,4 @@
-// The kit as QML sees it: its colours, its fonts, the choice of theme and of zoom.
+// The kit as QML sees it: its colors, its fonts, the choice of theme and of zoom.
 #pragma once
 
 #include "kit/themes.h"
@@ -16,7 +16,7 @@ struct CNKitThemeForQml {
     QML_VALUE_TYPE(cnKitTheme)
 };
 
-/// Colours and fonts of the kit's widgets.
+/// Colors and fonts of the kit's widgets.
 class CNUI : public QObject
 {
     Q_OBJECT
@@ -104,7 +104,7 @@ public:
     Q_INVOKABLE [[nodiscard]] bool scrolls(QSizeF offered, qreal zoom, QSizeF minimum) const;
 
     /// Brings a flickable back to its origin: now, on the next turn of the event loop, and four
-    /// times while the layout settles. Requests are not cancelled by later ones.
+    /// times while the layout settles. Requests are not canceled by later ones.
     Q_INVOKABLE void scrollHome(QQuickItem *flickable);
 
 Q_SIGNALS:

@@ -34,7 +34,7 @@ struct CoursePane {
 [[nodiscard]] CoursePane coursePane(
     const CourseSelection &selection, const ContentLibrary &library);
 
-/// The neighbours of a lesson in the course as one long row, across modules. A lesson that isn't
+/// The neighbors of a lesson in the course as one long row, across modules. A lesson that isn't
 /// in the row counts as the first.
 struct LessonNeighbours {
     const Lesson *previous = nullptr;

@@ -126,7 +126,7 @@ void HalvorinApp::start(int &argc, char **argv)
     waitUntilRead(component);
 
     // Only now: that loop would swallow the request, and until here there is nothing to bring home.
-    quitOnTerminationSignals();
+    Launch::quitOnTerminationSignals();
     HVSetup::openStore();
     course.wait();
 

@@ -21,7 +21,7 @@ void handleSignal(int)
 
 } // namespace
 
-void quitOnTerminationSignals()
+void Launch::quitOnTerminationSignals()
 {
     if (::socketpair(AF_UNIX, SOCK_STREAM, 0, g_sockets) != 0)
         return;
@@ -43,5 +43,5 @@ void quitOnTerminationSignals()
     }
 }
 #else
-void quitOnTerminationSignals() { }
+void Launch::quitOnTerminationSignals() { }
 #endif

@@ -178,7 +178,7 @@ TestCase {
         }
     }
 
-    function test_cards_are_at_least_118_high_inside_and_as_high_as_their_neighbours() {
+    function test_cards_are_at_least_118_high_inside_and_as_high_as_their_neighbors() {
         const inside = card => card.height - card.topPadding - card.bottomPadding;
         for (const card of cards()) {
             compare(card.topPadding, 12);

@@ -2,6 +2,7 @@
 
 #include "screens/common/storefollower.h"
 
+#include "content/contentkind.h"
 #include "content/contentlibrary.h"
 #include "shell/appmodel.h"
 
@@ -170,7 +171,7 @@ bool LessonReading::finished() const
 bool LessonReading::bookmarked() const
 {
     const UserStore *store = UserStore::shared();
-    return store && store->isBookmarked(u"lesson"_s, m_lessonID);
+    return store && store->isBookmarked(ContentKind::lesson, m_lessonID);
 }
 
 void LessonReading::setFinished(bool finished)
@@ -186,12 +187,12 @@ void LessonReading::toggleFinished()
 
 void LessonReading::toggleBookmark()
 {
-    AppModel::shared().toggleBookmark(u"lesson"_s, m_lessonID);
+    AppModel::shared().toggleBookmark(ContentKind::lesson, m_lessonID);
 }
 
 void LessonReading::addNote()
 {
-    AppModel::shared().newNote(u"lesson"_s, m_lessonID);
+    AppModel::shared().newNote(ContentKind::lesson, m_lessonID);
 }
 
 void LessonReading::goToPrevious()
