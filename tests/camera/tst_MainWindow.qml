@@ -23,6 +23,23 @@ TestCase {
             focus: true
         }
     }
+    // As a magnified camera stands in a window that is too small for it.
+    Component {
+        id: windows
+        ScrollSurface {
+            readonly property Item camera: inner
+            width: 900
+            height: 620
+            contentWidth: inner.width
+            contentHeight: inner.height
+            MainWindow {
+                id: inner
+                width: 1240
+                height: 800
+                focus: true
+            }
+        }
+    }
     property Item camera
 
     function init() {
@@ -101,6 +118,29 @@ TestCase {
     function test_shows_the_course_on_the_course_screen() {
         AppModel.openLesson("l1");
         verify(String(shownScreen()).startsWith("CourseView_"));
+    }
+
+    function test_the_wheel_over_the_display_scrolls_the_window_at_the_end_of_a_lesson() {
+        AppModel.openLesson("l1");
+        const around = createTemporaryObject(windows, test);
+        tryVerify(() => part("LessonReader", around.camera));
+        const reader = part("LessonReader", around.camera);
+        reader.contentHeight = 3000; // longer than those of the small course
+        const end = 3000 - reader.height;
+        reader.contentY = end;
+        mouseWheel(around, 700, 400, 0, -120);
+        compare([reader.contentY, around.contentY], [end, 60]);
+        mouseWheel(around, 700, 400, -120, 0);
+        compare(around.contentX, 60);
+    }
+
+    function test_the_wheel_over_the_results_scrolls_the_window_and_nothing_under_them() {
+        const around = createTemporaryObject(windows, test);
+        AppModel.globalQuery = "light";
+        tryVerify(() => part("GlobalResults", around.camera));
+        const campus = Find.first(part("HomeView", around.camera).parent, item => item.contentY !== undefined);
+        mouseWheel(around, 700, 400, 0, -120);
+        compare([campus.contentY, around.contentY], [0, 60]);
     }
 
     function test_keeps_results_hidden_for_a_blank_query_data() {

@@ -13,11 +13,8 @@ FocusScope {
         anchors.fill: parent
         anchors.margins: -10
         color: Qt.alpha("black", 0.6)
-        // Nothing under the panel may be clicked or scrolled.
-        MouseArea {
+        Curtain {
             anchors.fill: parent
-            hoverEnabled: true
-            onWheel: wheel => wheel.accepted = true
         }
     }
     SoftShadow {
