@@ -62,7 +62,7 @@ TestCase {
     function test_has_a_small_button_for_each_item() {
         fill(["Tripod", "Ball head", "<b>Filter</b>"]);
         const item = row();
-        compare(Find.buttons(item).map(button => button.text), ["Tripod", "Ball head", "<b>Filter</b>"]);
+        compare(Find.buttons(item).map(button => button.label), ["Tripod", "Ball head", "<b>Filter</b>"]);
         for (const button of Find.buttons(item)) {
             verify(button.compact);
             verify(!button.prominent);

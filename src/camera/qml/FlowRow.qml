@@ -37,7 +37,7 @@ Grid {
             required property string itemID
             required property string title
             width: Math.min(implicitWidth, root.width)
-            text: title
+            label: title
             symbol: root.symbol
             compact: true
             c: root.c

@@ -31,7 +31,7 @@ HVScroll {
             ContentsRow {
                 width: parent.width
                 c: root.c
-                text: moduleRow.title
+                label: moduleRow.title
                 symbol: moduleRow.open ? "chevron.down" : "chevron.right"
                 symbolSize: 10
                 symbolInk: root.c.glow
@@ -62,7 +62,7 @@ HVScroll {
                             c: root.c
                             leftPadding: 18
                             verticalPadding: 3
-                            text: title
+                            label: title
                             fontSize: 12
                             weight: current ? Font.Bold : Font.Normal
                             ink: current ? root.c.glow : root.c.oledText
@@ -78,7 +78,7 @@ HVScroll {
                         c: root.c
                         leftPadding: 18
                         verticalPadding: 4
-                        text: qsTr("Module quiz")
+                        label: qsTr("Module quiz")
                         fontSize: 12
                         weight: Font.Bold
                         ink: moduleRow.quizOpen ? root.c.glow : root.c.warn

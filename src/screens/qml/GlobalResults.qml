@@ -41,7 +41,7 @@ FocusScope {
             x: root.width - 52 - width
             c: root.c
             compact: true
-            text: qsTr("Close")
+            label: qsTr("Close")
             onClicked: AppModel.globalQuery = ""
         }
     }
