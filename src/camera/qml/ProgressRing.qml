@@ -12,7 +12,6 @@ Item {
 
     QtObject {
         id: metrics
-        readonly property real fraction: root.total > 0 ? root.done / root.total : 0
         readonly property real glow: 6
     }
 
@@ -26,7 +25,7 @@ Item {
         anchors.fill: parent
         anchors.margins: -metrics.glow
         c: root.c
-        fraction: metrics.fraction
+        fraction: Progress.fraction(root.done, root.total)
         Behavior on fraction {
             enabled: CNUI.animated
             NumberAnimation { duration: 350; easing.type: Easing.OutCubic }
@@ -37,7 +36,7 @@ Item {
         spacing: 2
         MuteHvText {
             anchors.horizontalCenter: parent.horizontalCenter
-            text: qsTr("%1%").arg(Math.floor(metrics.fraction * 100))
+            text: qsTr("%1%").arg(Progress.percent(root.done, root.total))
             font: CNUI.cnFont(30, Font.ExtraBold)
             color: root.c.oledText
         }
