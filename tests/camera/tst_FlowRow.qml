@@ -62,7 +62,7 @@ TestCase {
     function test_has_a_small_button_for_each_item() {
         fill(["Tripod", "Ball head", "<b>Filter</b>"]);
         const item = row();
-        compare(Find.buttons(item).map(button => button.text), ["Tripod", "Ball head", "<b>Filter</b>"]);
+        compare(Find.buttons(item).map(button => button.label), ["Tripod", "Ball head", "<b>Filter</b>"]);
         for (const button of Find.buttons(item)) {
             verify(button.compact);
             verify(!button.prominent);
@@ -89,6 +89,29 @@ TestCase {
         verify(second);
         compare(second.y, buttons[0].height + 8);
         verify(item.height >= second.y + second.height);
+    }
+
+    function test_fills_its_width_with_columns_that_are_alike() {
+        // As long as the titles of a lesson on filters, in the room that it has.
+        fill(["Lens hood", "Polarizer", "Ten-stop ND filter", "UV filter", "Blower", "Microfiber cloth", "Silica gel"]);
+        const item = row({ width: 727 });
+        const buttons = Find.buttons(item);
+        const columns = buttons.filter(button => button.y === 0).length;
+        compare(columns, 4);
+        buttons.forEach((button, i) => {
+            compare(button.width, buttons[0].width);
+            compare(button.x, i % columns * (buttons[0].width + 8));
+            verify(!Find.first(button, Find.isText).truncated, button.label);
+        });
+        const right = buttons[columns - 1].x + buttons[columns - 1].width;
+        verify(right <= 727 && right > 727 - columns);
+    }
+
+    function test_has_a_column_of_all_its_width_for_long_titles() {
+        fill(["This tests your understanding of light | The barber pole effect — a channel", "Another"]);
+        const buttons = Find.buttons(row());
+        compare(buttons.map(button => button.width), [500, 500]);
+        verify(buttons[1].y > 0);
     }
 
     function test_cuts_a_title_that_is_wider_than_all_of_it() {

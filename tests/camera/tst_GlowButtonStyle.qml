@@ -17,7 +17,7 @@ TestCase {
         GlowButtonStyle {
             property int clicks: 0
             c: CameraPalette.current
-            text: "Bookmark"
+            label: "Bookmark"
             onClicked: ++clicks
         }
     }
@@ -87,7 +87,7 @@ TestCase {
         compare(Find.first(plain, child => child.name === "" && child.pointSize !== undefined).visible, false);
     }
 
-    function test_has_its_text_for_a_name() {
+    function test_has_its_label_for_a_name() {
         const button = createTemporaryObject(buttons, test, { symbol: "bookmark" });
         compare(button.Accessible.name, "Bookmark");
         verify(!(label(button) instanceof HvText));

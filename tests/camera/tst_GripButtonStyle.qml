@@ -16,7 +16,7 @@ TestCase {
         GripButtonStyle {
             width: 190
             c: CameraPalette.current
-            text: "Campus"
+            label: "Campus"
             symbol: "building.columns"
         }
     }

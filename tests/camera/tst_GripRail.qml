@@ -31,7 +31,7 @@ TestCase {
         rail = createTemporaryObject(rails, test);
     }
     function selectedTitles() {
-        return Find.buttons(rail).filter(button => button.selected).map(button => button.text);
+        return Find.buttons(rail).filter(button => button.selected).map(button => button.label);
     }
 
     function test_is_214_wide() {
@@ -40,7 +40,7 @@ TestCase {
 
     function test_has_a_button_for_each_screen_in_their_order() {
         const buttons = Find.buttons(rail);
-        compare(buttons.map(button => button.text), screens.map(screen => screen.title));
+        compare(buttons.map(button => button.label), screens.map(screen => screen.title));
         compare(buttons.map(button => button.symbol), screens.map(screen => screen.symbol));
         compare(buttons.map(button => button.tip), screens.map(screen => screen.title));
         for (let i = 1; i < buttons.length; ++i)
@@ -73,19 +73,24 @@ TestCase {
     function test_cuts_no_title() {
         for (const button of Find.buttons(rail)) {
             for (const words of Find.all(button, Find.isText))
-                verify(!words.truncated, button.text);
+                verify(!words.truncated, button.label);
             // Within the plate, its rim included.
-            const label = Find.text(button, button.text);
-            verify(label.mapToItem(button, label.contentWidth, 0).x <= button.width - 2, button.text);
+            const label = Find.text(button, button.label);
+            verify(label.mapToItem(button, label.contentWidth, 0).x <= button.width - 2, button.label);
         }
     }
 
     function test_tells_assistive_technology_which_one_is_selected() {
         AppModel.screen = HVScreen.Lens;
         for (const button of Find.buttons(rail)) {
-            compare(button.Accessible.name, button.text);
-            compare(button.Accessible.checked, button.text === "Lens Lab");
+            compare(button.Accessible.name, button.label);
+            compare(button.Accessible.checked, button.label === "Lens Lab");
         }
+    }
+
+    function test_takes_an_ampersand_in_a_title_for_no_key() {
+        keyClick(Qt.Key_Space, Qt.AltModifier);
+        compare(AppModel.screen, HVScreen.Home);
     }
 
     function test_answers_the_keyboard() {

@@ -23,6 +23,23 @@ TestCase {
             focus: true
         }
     }
+    // As a magnified camera stands in a window that is too small for it.
+    Component {
+        id: windows
+        ScrollSurface {
+            readonly property Item camera: inner
+            width: 900
+            height: 620
+            contentWidth: inner.width
+            contentHeight: inner.height
+            MainWindow {
+                id: inner
+                width: 1240
+                height: 800
+                focus: true
+            }
+        }
+    }
     property Item camera
 
     function init() {
@@ -84,25 +101,57 @@ TestCase {
         const seen = [];
         for (const button of Find.buttons(part("GripRail"))) {
             mouseClick(button);
-            compare(AppModel.screenTitle, button.text);
+            compare(AppModel.screenTitle, button.label);
             const screen = shownScreen();
-            verify(screen, button.text);
-            verify(screen.visible, button.text);
+            verify(screen, button.label);
+            verify(screen.visible, button.label);
             const type = World.screens()[seen.length].component.split(".").pop();
-            verify(String(screen).startsWith(type + "_"), button.text);
-            compare(screen.width, part("ScreenView").width, button.text);
-            compare(screen.height, part("ScreenView").height, button.text);
-            verify(Find.texts(screen).length > 0, button.text);
-            verify(Find.text(part("TopPlate"), "MEDIUM FORMAT · 6×4.5 · " + button.text.toUpperCase()));
-            seen.push(button.text);
+            verify(String(screen).startsWith(type + "_"), button.label);
+            compare(screen.width, part("ScreenView").width, button.label);
+            compare(screen.height, part("ScreenView").height, button.label);
+            verify(Find.texts(screen).length > 0, button.label);
+            verify(Find.text(part("TopPlate"), "MEDIUM FORMAT · 6×4.5 · " + button.label.toUpperCase()));
+            seen.push(button.label);
         }
         compare(seen, World.screens().map(screen => screen.title));
         verify(String(shownScreen()).startsWith("HomeView_") === false);
     }
 
+    // Buttons say what they say in `label`: in `text` an "&" would mark a key.
+    function test_no_button_of_any_screen_has_a_text_that_marks_a_key() {
+        for (const button of Find.buttons(part("GripRail"))) {
+            mouseClick(button);
+            verify(Find.buttons(camera).length > 9);
+            compare(Find.buttons(camera).filter(item => item.text !== "").map(item => item.text), []);
+        }
+    }
+
     function test_shows_the_course_on_the_course_screen() {
         AppModel.openLesson("l1");
         verify(String(shownScreen()).startsWith("CourseView_"));
+    }
+
+    function test_the_wheel_over_the_display_scrolls_the_window_at_the_end_of_a_lesson() {
+        AppModel.openLesson("l1");
+        const around = createTemporaryObject(windows, test);
+        tryVerify(() => part("LessonReader", around.camera));
+        const reader = part("LessonReader", around.camera);
+        reader.contentHeight = 3000; // longer than those of the small course
+        const end = 3000 - reader.height;
+        reader.contentY = end;
+        mouseWheel(around, 700, 400, 0, -120);
+        compare([reader.contentY, around.contentY], [end, 60]);
+        mouseWheel(around, 700, 400, -120, 0);
+        compare(around.contentX, 60);
+    }
+
+    function test_the_wheel_over_the_results_scrolls_the_window_and_nothing_under_them() {
+        const around = createTemporaryObject(windows, test);
+        AppModel.globalQuery = "light";
+        tryVerify(() => part("GlobalResults", around.camera));
+        const campus = Find.first(part("HomeView", around.camera).parent, item => item.contentY !== undefined);
+        mouseWheel(around, 700, 400, 0, -120);
+        compare([campus.contentY, around.contentY], [0, 60]);
     }
 
     function test_keeps_results_hidden_for_a_blank_query_data() {
@@ -272,7 +321,7 @@ TestCase {
         camera = createTemporaryObject(cameras, test);
         for (const button of Find.buttons(part("GripRail"))) {
             mouseClick(button);
-            verify(shownScreen(), button.text);
+            verify(shownScreen(), button.label);
         }
         AppModel.continueCourse();
         AppModel.toggleBookmark("lesson", "l1");

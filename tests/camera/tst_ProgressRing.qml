@@ -34,6 +34,7 @@ TestCase {
             { tag: "nothing yet", done: 0, total: 60, percent: "0%", fraction: 0 },
             { tag: "a third", done: 1, total: 3, percent: "33%", fraction: 1 / 3 },
             { tag: "two thirds", done: 2, total: 3, percent: "66%", fraction: 2 / 3 },
+            { tag: "29 of 50", done: 29, total: 50, percent: "58%", fraction: 0.58 },
             { tag: "nearly all", done: 199, total: 200, percent: "99%", fraction: 0.995 },
             { tag: "all", done: 60, total: 60, percent: "100%", fraction: 1 },
         ];
@@ -42,6 +43,15 @@ TestCase {
         const item = ring(data.done, data.total);
         compare(Find.texts(item), [data.percent, data.done + " of " + data.total + " lessons"]);
         fuzzyCompare(arc(item).fraction, data.fraction, 1e-9);
+    }
+
+    function test_claims_no_percent_too_few_or_too_many() {
+        for (let percent = 0; percent <= 100; ++percent) {
+            compare(Progress.percent(percent, 100), percent);
+            compare(Progress.percent(percent * 3, 300), percent);
+            if (percent > 0)
+                compare(Progress.percent(percent * 7 - 1, 700), percent - 1);
+        }
     }
 
     function test_more_than_all_fills_the_ring_and_no_more() {

@@ -28,12 +28,12 @@ function isText(item) {
 }
 
 function isButton(item) {
-    return item.clicked !== undefined && item.down !== undefined && item.text !== undefined;
+    return item.clicked !== undefined && item.down !== undefined && item.label !== undefined;
 }
 
-// The visible button with this text or, if it has none, this tip; null if there isn't any.
-function button(root, text) {
-    return first(root, item => isButton(item) && item.visible && (item.text || item.tip) === text);
+// The visible button with this label or, if it has none, this tip; null if there isn't any.
+function button(root, label) {
+    return first(root, item => isButton(item) && item.visible && (item.label || item.tip) === label);
 }
 
 function buttons(root) {

@@ -15,7 +15,7 @@ TestCase {
         id: buttons
         CNChromeButton {
             property int clicks: 0
-            text: "Close"
+            label: "Close"
             onClicked: ++clicks
         }
     }

@@ -63,7 +63,7 @@ TestCase {
         verify(Find.text(dialog.contentItem, "Something <b>happened</b>."));
         const buttons = Find.buttons(dialog.contentItem);
         compare(buttons.length, 1);
-        compare(buttons[0].text, "OK");
+        compare(buttons[0].label, "OK");
     }
 
     function test_reads_out_title_and_message() {

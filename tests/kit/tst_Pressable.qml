@@ -83,17 +83,26 @@ TestCase {
         verify(button.activeFocus);
     }
 
-    function test_has_the_name_of_its_text() {
-        button.text = "Open";
+    function test_has_the_name_of_its_label() {
+        button.label = "Open";
         button.tip = "Opens the course";
         compare(button.Accessible.role, Accessible.Button);
         compare(button.Accessible.name, "Open");
         compare(button.Accessible.description, "Opens the course");
     }
 
-    function test_without_text_has_the_name_of_its_tip() {
+    function test_without_label_has_the_name_of_its_tip() {
         button.tip = "Clear search";
         compare(button.Accessible.name, "Clear search");
+    }
+
+    function test_takes_an_ampersand_in_its_label_for_no_key() {
+        button.label = "Shadows & Light";
+        keyClick(Qt.Key_Space, Qt.AltModifier);
+        button.label = "Q&A";
+        keyClick(Qt.Key_A, Qt.AltModifier);
+        compare(button.clicks, 0);
+        compare(button.Accessible.name, "Q&A");
     }
 
     function test_shows_the_focus_that_came_by_keyboard_alone() {
@@ -125,7 +134,7 @@ TestCase {
     }
 
     function test_tells_its_tip_under_the_pointer() {
-        button.text = "Open";
+        button.label = "Open";
         button.tip = "Opens the course";
         mouseMove(button, 300, 200);
         compare(tips(), []);

@@ -2,7 +2,7 @@ import QtQuick
 import Halvorin.Kit
 import Halvorin.Camera
 
-/*! A card that can be pressed as a whole. Its content stands in `content`; `text` is its name for
+/*! A card that can be pressed as a whole. Its content stands in `content`; `label` is its name for
     assistive technology. */
 Pressable {
     id: root

@@ -4,8 +4,9 @@ import QtQuick
 import Halvorin.Kit
 import Halvorin.Camera
 
-/*! Small buttons in columns that fit the width, each for an item with the roles `itemID` and
-    `title`; the chosen id goes out with `chosen`. Without items it takes no height. */
+/*! Small buttons in a grid, each for an item with the roles `itemID` and `title`; the chosen id
+    goes out with `chosen`. The columns are alike and fill the width: as many as have room for the
+    longest title. Without items it takes no height. */
 Grid {
     id: root
 
@@ -23,11 +24,13 @@ Grid {
                 widest = Math.max(widest, chips.itemAt(i)?.implicitWidth ?? 0);
             return widest;
         }
-        readonly property real columnWidth: Math.min(root.width, Math.max(120, metrics.widest))
+        readonly property real minimumColumnWidth: Math.min(root.width, Math.max(120, metrics.widest))
+        // Whole points, so that the edges of all columns are drawn alike.
+        readonly property real columnWidth: Math.floor((root.width - (root.columns - 1) * root.spacing) / root.columns)
     }
 
     spacing: 8
-    columns: Math.max(1, Math.floor((root.width + root.spacing) / (metrics.columnWidth + root.spacing)))
+    columns: Math.max(1, Math.floor((root.width + root.spacing) / (metrics.minimumColumnWidth + root.spacing)))
     visible: chips.count > 0
 
     Repeater {
@@ -36,8 +39,8 @@ Grid {
         delegate: GlowButtonStyle {
             required property string itemID
             required property string title
-            width: Math.min(implicitWidth, root.width)
-            text: title
+            width: metrics.columnWidth
+            label: title
             symbol: root.symbol
             compact: true
             c: root.c

@@ -26,8 +26,8 @@ Pressable {
     opacity: root.down ? 0.7 : root.enabled ? 1 : 0.45
 
     contentItem: Item {
-        implicitWidth: label.implicitWidth + (mark.visible ? mark.width + root.spacing : 0)
-        implicitHeight: Math.max(label.implicitHeight, mark.visible ? mark.height : 0)
+        implicitWidth: words.implicitWidth + (mark.visible ? mark.width + root.spacing : 0)
+        implicitHeight: Math.max(words.implicitHeight, mark.visible ? mark.height : 0)
         Symbol {
             id: mark
             visible: root.symbol !== ""
@@ -38,11 +38,11 @@ Pressable {
             ink: metrics.ink
         }
         MuteHvText {
-            id: label
+            id: words
             x: mark.visible ? mark.width + root.spacing : 0
             width: parent.width - x
             anchors.verticalCenter: parent.verticalCenter
-            text: root.text
+            text: root.label
             elide: Text.ElideRight
             color: metrics.ink
             font: metrics.lettering

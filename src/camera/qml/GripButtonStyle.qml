@@ -24,8 +24,8 @@ Pressable {
     scale: root.down ? 0.97 : 1
 
     contentItem: Item {
-        implicitWidth: label.x + label.implicitWidth
-        implicitHeight: Math.max(metrics.mark.height, label.implicitHeight)
+        implicitWidth: words.x + words.implicitWidth
+        implicitHeight: Math.max(metrics.mark.height, words.implicitHeight)
         Symbol {
             x: (metrics.mark.width - width) / 2
             anchors.verticalCenter: parent.verticalCenter
@@ -35,12 +35,12 @@ Pressable {
             ink: metrics.ink
         }
         MuteHvText {
-            id: label
+            id: words
             x: metrics.mark.width + 8
             // The longest title may use some of the padding.
             width: parent.width - x + root.rightPadding - 4
             anchors.verticalCenter: parent.verticalCenter
-            text: root.text
+            text: root.label
             color: metrics.ink
             font: Type.button
             elide: Text.ElideRight

@@ -35,7 +35,7 @@ Item {
                 width: parent?.width ?? 0
                 c: root.c
                 selected: AppModel.screen === screen
-                text: title
+                label: title
                 tip: title
                 onClicked: AppModel.screen = screen
                 Accessible.checkable: true

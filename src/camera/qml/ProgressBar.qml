@@ -15,7 +15,7 @@ Rectangle {
 
     Rectangle {
         visible: width > 0
-        width: root.total > 0 ? parent.width * Math.min(1, root.done / root.total) : 0
+        width: parent.width * Progress.fraction(root.done, root.total)
         height: parent.height
         radius: root.radius
         color: root.c.glow

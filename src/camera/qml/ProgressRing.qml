@@ -10,11 +10,6 @@ Item {
     required property int total
     required property hvColors c
 
-    QtObject {
-        id: metrics
-        readonly property real fraction: root.total > 0 ? root.done / root.total : 0
-    }
-
     implicitWidth: 150
     implicitHeight: 150
 
@@ -25,7 +20,7 @@ Item {
         anchors.fill: parent
         anchors.margins: -Geometry.ringGlow
         c: root.c
-        fraction: metrics.fraction
+        fraction: Progress.fraction(root.done, root.total)
         Behavior on fraction {
             enabled: CNUI.animated
             NumberAnimation { duration: 350; easing.type: Easing.OutCubic }
@@ -36,7 +31,7 @@ Item {
         spacing: 2
         MuteHvText {
             anchors.horizontalCenter: parent.horizontalCenter
-            text: qsTr("%1%").arg(Math.floor(metrics.fraction * 100))
+            text: qsTr("%1%").arg(Progress.percent(root.done, root.total))
             font: Type.figure
             color: root.c.oledText
         }

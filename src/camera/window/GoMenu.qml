@@ -20,11 +20,10 @@ CNMenu {
             id: row
 
             required property int screen
-            required property string title
+            required title
             required property string shortcut
 
             action: T.Action {
-                text: row.title.replace("&", "&&")
                 shortcut: row.shortcut
                 onTriggered: AppModel.screen = row.screen
             }

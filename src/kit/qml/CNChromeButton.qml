@@ -20,7 +20,7 @@ Pressable {
     opacity: root.down ? 0.75 : 1
 
     contentItem: MuteHvText {
-        text: root.text
+        text: root.label
         color: "white"
         font: root.compact ? Type.compactChrome : Type.button
         horizontalAlignment: Text.AlignHCenter

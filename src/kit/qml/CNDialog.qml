@@ -76,7 +76,7 @@ T.Dialog {
                             id: dismiss
                             anchors.right: parent.right
                             anchors.bottom: parent.bottom
-                            text: root.buttonTitle
+                            label: root.buttonTitle
                             prominent: true
                             onClicked: root.accept()
                         }

@@ -2,15 +2,19 @@ import QtQuick
 import QtQuick.Templates as T
 import Halvorin.Kit
 
-/*! A row of a menu, with a check mark if it is checkable and the key that does the same. */
+/*! A row of a menu, with a check mark if it is checkable and the key that does the same. Words
+    that may hold an "&" of their own stand in `title`; in `text` it marks the key of the row. */
 T.MenuItem {
     id: root
 
+    property string title: ""
     readonly property string keys: CNUI.shortcutText(root.action?.shortcut ?? "")
 
-    implicitWidth: 26 + title.implicitWidth + (keyHint.text !== "" ? keyHint.implicitWidth + 32 : 16) + 14
+    onTitleChanged: root.text = CNUI.withLiteralMarks(root.title)
+
+    implicitWidth: 26 + words.implicitWidth + (keyHint.text !== "" ? keyHint.implicitWidth + 32 : 16) + 14
     implicitHeight: 26
-    Accessible.name: title.text
+    Accessible.name: words.text
 
     contentItem: Item {
         Symbol {
@@ -23,7 +27,7 @@ T.MenuItem {
             ink: CNUI.theme.text
         }
         MuteHvText {
-            id: title
+            id: words
             x: 26
             anchors.verticalCenter: parent.verticalCenter
             text: CNUI.withoutMnemonic(root.text)

@@ -20,7 +20,7 @@ CNMenu {
             required property string themeID
             required property bool themeChecked
 
-            text: name.replace("&", "&&")
+            title: name
             checkable: true
             checked: themeChecked
             onTriggered: {

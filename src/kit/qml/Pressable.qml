@@ -3,10 +3,14 @@ import QtQuick.Templates as T
 import Halvorin.Kit
 
 /*! What every button of the program has in common: it answers Space, Return and the mouse, shows
-    the focus that came by keyboard, and tells its tip. The look is the caller's. */
+    the focus that came by keyboard, and tells its tip. The look is the caller's.
+
+    What it says stands in `label`. Its `text` stays empty: the template would take an "&" in it for
+    the mark of a key, so that Alt and Space pressed "Workflows & Software". */
 T.AbstractButton {
     id: root
 
+    property string label: ""
     property string tip: ""
     property real cornerRadius: 10
     property color focusInk: CNUI.theme.text
@@ -17,11 +21,11 @@ T.AbstractButton {
     focusPolicy: Qt.StrongFocus
 
     Accessible.role: Accessible.Button
-    Accessible.name: root.text !== "" ? root.text : root.tip
+    Accessible.name: root.label !== "" ? root.label : root.tip
     Accessible.description: root.tip
 
     ButtonBehavior {
         showsRing: root.visualFocus
-        showsTip: root.tip !== "" && (root.hovered || root.visualFocus && root.tip !== root.text)
+        showsTip: root.tip !== "" && (root.hovered || root.visualFocus && root.tip !== root.label)
     }
 }

@@ -36,14 +36,24 @@ void ButtonBehavior::componentComplete()
 
 bool ButtonBehavior::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
+        return QObject::eventFilter(watched, event);
+
+    const auto *stroke = static_cast<QKeyEvent *>(event);
+    switch (stroke->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (event->type() == QEvent::KeyPress && !stroke->isAutoRepeat())
             QMetaObject::invokeMethod(watched, "clicked");
-            return true;
-        }
+        return true;
+    case Qt::Key_Space:
+        // The button clicks at the release. One that ends no press of its own comes from a key
+        // that was held while the focus moved here.
+        return stroke->isAutoRepeat()
+            || (event->type() == QEvent::KeyRelease && !watched->property("pressed").toBool());
+    default:
+        return QObject::eventFilter(watched, event);
     }
-    return QObject::eventFilter(watched, event);
 }
 
 void ButtonBehavior::show(std::unique_ptr<QObject> &ornament, bool shows, const QString &file)

@@ -8,8 +8,8 @@
 #include <memory>
 
 /// What a button does beside being pressed by mouse or Space: the pointer becomes a hand over it,
-/// Return and Enter click it, and it wears a focus ring and a tip at the right moments. Stands in a
-/// Pressable.
+/// Return and Enter click it, a key that is held clicks it once, and it wears a focus ring and a
+/// tip at the right moments. Stands in a Pressable.
 ///
 /// In C++ because there are dozens on a screen: a handler, a key filter and two places for what
 /// is hardly ever there, as objects of QML's, made up a fifth of what a start creates.

@@ -61,6 +61,11 @@ QString CNUI::withoutMnemonic(const QString &text) const
     return QString(text).replace(mark, QStringLiteral("\\1"));
 }
 
+QString CNUI::withLiteralMarks(const QString &words) const
+{
+    return QString(words).replace(u'&', QStringLiteral("&&"));
+}
+
 QColor CNUI::gray(qreal white, qreal opacity) const
 {
     return ::gray(white, opacity);

@@ -49,6 +49,9 @@ public:
     /// A menu's text without the mark of its mnemonic: "&Go" gives "Go", "A && B" gives "A & B".
     Q_INVOKABLE [[nodiscard]] QString withoutMnemonic(const QString &text) const;
 
+    /// The other way round: the text of a menu that shows `words` and has no mnemonic.
+    Q_INVOKABLE [[nodiscard]] QString withLiteralMarks(const QString &words) const;
+
     /// A neutral gray, 0 (black) to 1 (white).
     Q_INVOKABLE [[nodiscard]] QColor gray(qreal white, qreal opacity = 1) const;
 

@@ -51,19 +51,19 @@ HVScroll {
                     c: root.c
                     prominent: true
                     symbol: "play.fill"
-                    text: campus.continueTitle
+                    label: campus.continueTitle
                     onClicked: AppModel.continueCourse()
                 }
                 GlowButtonStyle {
                     c: root.c
                     symbol: "camera.aperture"
-                    text: qsTr("Exposure Lab")
+                    label: qsTr("Exposure Lab")
                     onClicked: AppModel.screen = HVScreen.Exposure
                 }
                 GlowButtonStyle {
                     c: root.c
                     symbol: "books.vertical"
-                    text: qsTr("Encyclopedia")
+                    label: qsTr("Encyclopedia")
                     onClicked: AppModel.screen = HVScreen.Gear
                 }
             }

@@ -13,11 +13,8 @@ FocusScope {
         anchors.fill: parent
         anchors.margins: -Geometry.displayPadding
         color: Metal.partShadow
-        // Nothing under the panel may be clicked or scrolled.
-        MouseArea {
+        Curtain {
             anchors.fill: parent
-            hoverEnabled: true
-            onWheel: wheel => wheel.accepted = true
         }
     }
     SoftShadow {
@@ -44,7 +41,7 @@ FocusScope {
             x: root.width - 52 - width
             c: root.c
             compact: true
-            text: qsTr("Close")
+            label: qsTr("Close")
             onClicked: AppModel.globalQuery = ""
         }
     }

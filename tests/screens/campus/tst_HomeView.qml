@@ -56,7 +56,7 @@ TestCase {
     }
 
     function test_offers_its_ways_in_their_order() {
-        compare(Find.buttons(home).slice(0, 3).map(button => button.text),
+        compare(Find.buttons(home).slice(0, 3).map(button => button.label),
                 ["Start lesson 1", "Exposure Lab", "Encyclopedia"]);
         compare(Find.buttons(home).slice(0, 3).map(button => button.symbol),
                 ["play.fill", "camera.aperture", "books.vertical"]);
@@ -66,7 +66,7 @@ TestCase {
     }
 
     function test_a_fresh_user_starts_with_lesson_one() {
-        compare(continueButton().text, "Start lesson 1");
+        compare(continueButton().label, "Start lesson 1");
         mouseClick(continueButton());
         compare(AppModel.screen, HVScreen.Course);
         compare(World.lessonID(), "l1");
@@ -75,14 +75,14 @@ TestCase {
 
     function test_goes_on_with_the_first_unfinished_lesson() {
         World.finish(["l1", "l3"]);
-        compare(continueButton().text, "Continue: A lens in the hole");
+        compare(continueButton().label, "Continue: A lens in the hole");
         mouseClick(continueButton());
         compare(World.lessonID(), "l2");
     }
 
     function test_goes_on_with_the_first_lesson_when_all_are_finished() {
         World.finishAll();
-        compare(continueButton().text, "Continue: A hole in the dark");
+        compare(continueButton().label, "Continue: A hole in the dark");
         mouseClick(continueButton());
         compare(AppModel.screen, HVScreen.Course);
         compare(World.lessonID(), "l1");
@@ -198,7 +198,7 @@ TestCase {
 
     function test_shows_nothing_finished_without_a_store() {
         showCourse("small", false);
-        compare(continueButton().text, "Start lesson 1");
+        compare(continueButton().label, "Start lesson 1");
         compare(cards().map(card => card.doneIn), [0, 0, 0]);
         mouseClick(continueButton());
         compare(World.lessonID(), "l1");
@@ -207,7 +207,7 @@ TestCase {
     function test_has_nothing_to_continue_in_a_course_without_lessons() {
         showCourse("bare", true);
         compare(continueButton(), undefined);
-        compare(Find.buttons(home).slice(0, 2).map(button => button.text), ["Exposure Lab", "Encyclopedia"]);
+        compare(Find.buttons(home).slice(0, 2).map(button => button.label), ["Exposure Lab", "Encyclopedia"]);
         verify(Find.text(home, "0 of 0 lessons"));
         verify(Find.text(home, "0%"));
         verify(Find.text(cards()[0], "0/0"));

@@ -46,7 +46,7 @@ TestCase {
     }
     // The rows of the contents as a reader sees them.
     function rows() {
-        return Find.buttons(part("CourseContents")).map(button => button.text);
+        return Find.buttons(part("CourseContents")).map(button => button.label);
     }
     function row(text) {
         return Find.button(part("CourseContents"), text);

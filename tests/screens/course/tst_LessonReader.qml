@@ -54,7 +54,7 @@ TestCase {
     function test_has_its_actions_in_their_order() {
         read("l1");
         const actions = Find.buttons(reader).slice(0, 3);
-        compare(actions.map(action => action.text), ["Mark as finished", "Bookmark", "Add note"]);
+        compare(actions.map(action => action.label), ["Mark as finished", "Bookmark", "Add note"]);
         compare(actions.map(action => action.symbol), ["circle", "bookmark", "square.and.pencil"]);
         compare(actions.map(action => action.prominent), [true, false, false]);
         for (const action of actions)
@@ -126,7 +126,7 @@ TestCase {
         read("l2");
         verify(!Find.text(reader, "IN THE ENCYCLOPEDIA"));
         verify(!Find.text(reader, "WATCH"));
-        compare(Find.buttons(reader).map(item => item.text), ["Mark as finished", "Bookmark", "Add note", "Previous", "Finish & next lesson"]);
+        compare(Find.buttons(reader).map(item => item.label), ["Mark as finished", "Bookmark", "Add note", "Previous", "Finish & next lesson"]);
     }
 
     function test_the_first_lesson_has_no_previous_one() {

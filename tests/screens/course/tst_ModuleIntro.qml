@@ -80,6 +80,6 @@ TestCase {
     function test_follows_its_module() {
         const intro = introduce("light");
         intro.moduleID = "time";
-        compare(Find.buttons(intro).map(button => button.text), ["Lesson 1: The shutter, 12 min", "Take the module quiz (0 questions)"]);
+        compare(Find.buttons(intro).map(button => button.label), ["Lesson 1: The shutter, 12 min", "Take the module quiz (0 questions)"]);
     }
 }

@@ -1,13 +1,21 @@
 #include "screens/reading/private/richtextflow.h"
 
 #include "camera/hvcolors.h"
+#include "content/contentlibrary.h"
+#include "content/installedcourse.h"
 #include "kit/fonts.h"
 #include "kit/printing.h"
+#include "screens/richtextblocks.h"
 
+#include <QClipboard>
 #include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QMimeData>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QQuickWindow>
+#include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextDocument>
 
@@ -73,6 +81,25 @@ protected:
 
     void setWidth(double width) { m_edit->setWidth(width); }
 
+    void showInAWindow()
+    {
+        m_window = std::make_unique<QQuickWindow>();
+        m_edit->setParentItem(m_window->contentItem());
+        m_window->show();
+        m_window->requestActivate();
+        while (!m_window->isActive())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+
+    // What is on the clipboard after all of the text has been copied.
+    [[nodiscard]] QString copied()
+    {
+        m_edit->forceActiveFocus();
+        QMetaObject::invokeMethod(m_edit.get(), "selectAll");
+        QMetaObject::invokeMethod(m_edit.get(), "copy");
+        return QGuiApplication::clipboard()->text();
+    }
+
     static inline const QColor kGlow{ 200, 160, 90 };
     static inline const QString kLong = u"Light goes by area, and half the width is a quarter of "
                                         "the light. "_s.repeated(4);
@@ -81,8 +108,25 @@ protected:
 
 private:
     QQmlEngine m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
     std::unique_ptr<QQuickItem> m_edit;
 };
+
+// All long texts of the course that the program ships with.
+QStringList courseTexts()
+{
+    const ContentLibrary library(installedCourse());
+    QStringList result;
+    const auto append = [&result](const auto &records) {
+        for (const auto &record : records)
+            result.append(record.body);
+    };
+    append(library.lessons());
+    append(library.gear());
+    append(library.timeline());
+    append(library.software());
+    return result;
+}
 
 // Lines of text stand on whole pixels.
 constexpr double kPixel = 1.01;
@@ -258,6 +302,75 @@ TEST_F(RichTextFlowTest, BreaksAWordThatIsLongerThanTheLine)
     flow.setText(QString(200, u'm'));
     EXPECT_GT(lineCount(0), 2);
     EXPECT_LE(document().idealWidth(), 401);
+}
+
+TEST_F(RichTextFlowTest, KeepsEveryFigureOfTheCourseOnOneLine)
+{
+    // An f-number, or a fraction such as a shutter time.
+    static const QRegularExpression figure(u"\\b(f|\\d+)/\\x{034F}?\\d+(\\.\\d+)?"_s);
+    int figures = 0;
+    QStringList broken;
+    for (const double width : { 560.0, 742.0 }) {
+        setWidth(width);
+        for (const QString &text : courseTexts()) {
+            flow.setText(text);
+            for (QTextBlock at = document().begin(); at.isValid(); at = at.next()) {
+                for (auto found = figure.globalMatch(at.text()); found.hasNext();) {
+                    const QRegularExpressionMatch match = found.next();
+                    ++figures;
+                    const QTextLine line = at.layout()->lineForTextPosition(match.capturedStart());
+                    if (match.capturedEnd() > line.textStart() + line.textLength())
+                        broken.append(match.captured());
+                }
+            }
+        }
+    }
+    EXPECT_GT(figures, 1000);
+    EXPECT_EQ(broken, QStringList()) << "of " << figures;
+}
+
+TEST_F(RichTextFlowTest, GivesAFigureNoMoreRoomThanItsLetters)
+{
+    for (const QString &figure : { u"f/4"_s, u"f/2.8"_s, u"f/11"_s }) {
+        flow.setText(figure);
+        const QTextLine line = block(0).layout()->lineAt(0);
+        QTextLayout plain(figure, letters(0).font());
+        plain.beginLayout();
+        const QTextLine plainLine = plain.createLine();
+        plain.endLayout();
+        EXPECT_EQ(line.naturalTextWidth(), plainLine.naturalTextWidth()) << qPrintable(figure);
+        EXPECT_EQ(line.ascent(), plainLine.ascent()) << qPrintable(figure);
+        EXPECT_EQ(line.height(), plainLine.height()) << qPrintable(figure);
+    }
+}
+
+TEST_F(RichTextFlowTest, IsCopiedAsItIsWritten)
+{
+    showInAWindow();
+    for (const QString &text : courseTexts()) {
+        QStringList written;
+        for (const RichTextMarkup::Block &block : RichTextMarkup::blocks(text))
+            written.append(block.text);
+        flow.setText(text);
+        EXPECT_EQ(copied(), written.join(u'\n'));
+    }
+}
+
+TEST_F(RichTextFlowTest, IsCopiedWithoutTheColorsOfTheDisplay)
+{
+    showInAWindow();
+    flow.setText(u"## Title\nA paragraph."_s);
+    EXPECT_EQ(copied(), u"Title\nA paragraph."_s);
+    EXPECT_FALSE(QGuiApplication::clipboard()->mimeData()->hasHtml());
+}
+
+TEST_F(RichTextFlowTest, LeavesWhatOthersCopyAsItIs)
+{
+    showInAWindow();
+    flow.setText(u"A paragraph."_s);
+    const QString foreign = u"f/\u034F2"_s;
+    QGuiApplication::clipboard()->setText(foreign);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), foreign);
 }
 
 TEST_F(RichTextFlowTest, PutsADotBeforeEachBullet)

@@ -15,7 +15,7 @@ CardButton {
     required property int lessonsIn
 
     padding: 12
-    text: qsTr("%1. %2. %3 of %4 lessons finished").arg(root.title).arg(root.level).arg(root.doneIn).arg(root.lessonsIn)
+    label: qsTr("%1. %2. %3 of %4 lessons finished").arg(root.title).arg(root.level).arg(root.doneIn).arg(root.lessonsIn)
     onClicked: AppModel.openModule(root.moduleID)
 
     Column {

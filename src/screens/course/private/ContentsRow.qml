@@ -23,7 +23,7 @@ Pressable {
     focusInk: root.c.glow
 
     contentItem: Item {
-        implicitHeight: label.implicitHeight
+        implicitHeight: words.implicitHeight
         Item {
             width: metrics.markWidth
             height: firstLine.height
@@ -37,14 +37,14 @@ Pressable {
         }
         TextMetrics {
             id: firstLine
-            font: label.font
+            font: words.font
             text: "X"
         }
         MuteHvText {
-            id: label
+            id: words
             x: metrics.markWidth + metrics.gap
             width: parent.width - x
-            text: root.text
+            text: root.label
             font: root.lettering
             color: root.ink
             wrapMode: Text.Wrap

@@ -31,7 +31,7 @@ HVScroll {
             ContentsRow {
                 width: parent.width
                 c: root.c
-                text: moduleRow.title
+                label: moduleRow.title
                 symbol: moduleRow.open ? "chevron.down" : "chevron.right"
                 symbolSize: 10
                 symbolInk: root.c.glow
@@ -61,7 +61,7 @@ HVScroll {
                             c: root.c
                             leftPadding: 18
                             verticalPadding: 3
-                            text: title
+                            label: title
                             lettering: current ? Type.currentRow : Type.row
                             ink: current ? root.c.glow : root.c.oledText
                             symbol: finished ? "checkmark.circle.fill" : "circle"
@@ -76,7 +76,7 @@ HVScroll {
                         c: root.c
                         leftPadding: 18
                         verticalPadding: 4
-                        text: qsTr("Module quiz")
+                        label: qsTr("Module quiz")
                         lettering: Type.currentRow
                         ink: moduleRow.quizOpen ? root.c.glow : root.c.warn
                         symbol: "checklist"

@@ -53,7 +53,7 @@ HVScroll {
             c: root.c
             compact: true
             prominent: !lesson.finished
-            text: lesson.finished ? qsTr("Finished") : qsTr("Mark as finished")
+            label: lesson.finished ? qsTr("Finished") : qsTr("Mark as finished")
             symbol: lesson.finished ? "checkmark.circle.fill" : "circle"
             tip: qsTr("Record this lesson as finished")
             onClicked: lesson.toggleFinished()
@@ -61,14 +61,14 @@ HVScroll {
         GlowButtonStyle {
             c: root.c
             compact: true
-            text: lesson.bookmarked ? qsTr("Bookmarked") : qsTr("Bookmark")
+            label: lesson.bookmarked ? qsTr("Bookmarked") : qsTr("Bookmark")
             symbol: lesson.bookmarked ? "bookmark.fill" : "bookmark"
             onClicked: lesson.toggleBookmark()
         }
         GlowButtonStyle {
             c: root.c
             compact: true
-            text: qsTr("Add note")
+            label: qsTr("Add note")
             symbol: "square.and.pencil"
             onClicked: lesson.addNote()
         }
@@ -118,7 +118,7 @@ HVScroll {
             visible: lesson.hasPrevious
             c: root.c
             symbol: "chevron.left"
-            text: qsTr("Previous")
+            label: qsTr("Previous")
             onClicked: lesson.goToPrevious()
         }
         GlowButtonStyle {
@@ -129,7 +129,7 @@ HVScroll {
             c: root.c
             prominent: true
             symbol: "chevron.right"
-            text: qsTr("Finish & next lesson")
+            label: qsTr("Finish & next lesson")
             onClicked: lesson.finishAndGoOn()
         }
     }

@@ -42,7 +42,7 @@ HVScroll {
 
             width: parent?.width ?? 0
             c: root.c
-            text: qsTr("Lesson %1: %2, %3 min").arg(card.number).arg(card.title).arg(card.minutes)
+            label: qsTr("Lesson %1: %2, %3 min").arg(card.number).arg(card.title).arg(card.minutes)
             onClicked: module.showLesson(card.lessonID)
 
             Item {
@@ -81,7 +81,7 @@ HVScroll {
         c: root.c
         prominent: true
         symbol: "checklist"
-        text: module.quizTitle
+        label: module.quizTitle
         onClicked: module.showQuiz()
     }
 }

@@ -6,12 +6,17 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextFrame>
 #include <QTextLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -116,7 +121,24 @@ QString oneBlock(QString text)
     return text;
 }
 
+// The combining grapheme joiner: no line breaks behind it, it takes no room, and the cursor takes
+// it and the letter before it for one.
+constexpr QChar kJoiner(0x034F);
+
+// Unicode lets a line end behind the slash of "f/2.8", though not behind that of "1/125".
+QString unbreakable(QString text)
+{
+    static const QRegularExpression fNumber(u"\\bf/(?=\\d)"_s);
+    return text.replace(fNumber, u"f/"_s + kJoiner);
+}
+
 } // namespace
+
+RichTextFlow::RichTextFlow(QObject *parent)
+    : QObject(parent)
+{
+    connect(QGuiApplication::clipboard(), &QClipboard::changed, this, &RichTextFlow::copyPlainly);
+}
 
 void RichTextFlow::setDocument(QQuickTextDocument *document)
 {
@@ -181,7 +203,7 @@ void RichTextFlow::fill()
                 cursor.insertBlock(shape, letters);
             else
                 cursor.setBlockFormat(shape);
-            cursor.insertText(oneBlock(block.text), letters);
+            cursor.insertText(unbreakable(oneBlock(block.text)), letters);
             cursor.block().setUserState(int(block.form));
             before = block.form;
         }
@@ -231,4 +253,22 @@ void RichTextFlow::placeOrnaments()
     m_dots = dots;
     m_plates = plates;
     Q_EMIT ornamentsChanged();
+}
+
+void RichTextFlow::copyPlainly(QClipboard::Mode mode)
+{
+    // A TextEdit offers what it copies as HTML too, in the display's light colors, which nobody
+    // could read on paper. While it has the focus nobody else copies.
+    QClipboard &clipboard = *QGuiApplication::clipboard();
+    const QObject *edit = m_document ? m_document->parent() : nullptr;
+    if (!edit || !edit->property("activeFocus").toBool())
+        return;
+    const QMimeData *offered = clipboard.mimeData(mode);
+    if (!offered || !offered->hasHtml())
+        return;
+    QString words = edit->property("selectedText").toString();
+    words.remove(kJoiner);
+    words.replace(QChar::ParagraphSeparator, u'\n');
+    words.replace(QChar::LineSeparator, u'\n');
+    clipboard.setText(words, mode);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QClipboard>
 #include <QColor>
 #include <QObject>
 #include <QQuickTextDocument>
@@ -14,6 +15,10 @@ class QTextDocument;
 /// Lays course mark-up out in the document of a TextEdit, as plain characters with formats, so
 /// that the whole text is one selection. Reports where the ornaments stand that a document can't
 /// draw: the dots of bullets and the plates of callouts.
+///
+/// A figure such as "f/2.8" stays on one line. What holds it together is a character without width
+/// that is in the document and nowhere else: what is copied are the words of the text, as plain
+/// text.
 class RichTextFlow : public QObject
 {
     Q_OBJECT
@@ -26,7 +31,7 @@ class RichTextFlow : public QObject
     Q_PROPERTY(QVariantList dots READ dots NOTIFY ornamentsChanged)
     Q_PROPERTY(QVariantList plates READ plates NOTIFY ornamentsChanged)
 public:
-    using QObject::QObject;
+    explicit RichTextFlow(QObject *parent = nullptr);
 
     [[nodiscard]] QQuickTextDocument *document() const { return m_document; }
     void setDocument(QQuickTextDocument *document);
@@ -51,6 +56,7 @@ Q_SIGNALS:
 private:
     void fill();
     void placeOrnaments();
+    void copyPlainly(QClipboard::Mode mode);
 
     QPointer<QQuickTextDocument> m_document;
     QString m_text;

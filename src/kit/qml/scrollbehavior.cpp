@@ -1,0 +1,194 @@
+#include "scrollbehavior.h"
+
+#include <QKeyEvent>
+#include <QPointingDevice>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+// All in points of the content.
+constexpr qreal kWheelStep = 60;
+constexpr qreal kKeyStep = 48;
+constexpr qreal kFocusMargin = 16;
+
+// How far a wheel or a touchpad asks the content to move.
+QPointF distance(const QWheelEvent &wheel)
+{
+    constexpr int kNotch = 120; // a click of the wheel, in eighths of a degree
+    const QPointF moved = wheel.pixelDelta().isNull()
+        ? QPointF(wheel.angleDelta()) / kNotch * kWheelStep
+        : QPointF(wheel.pixelDelta());
+    // Some platforms turn it themselves.
+    const bool turn = wheel.modifiers().testFlag(Qt::ShiftModifier) && moved.x() == 0;
+    return turn ? moved.transposed() : moved;
+}
+
+// Where a view of this size begins that shows the stretch from `begin` to `end`, if it begins at
+// `now` and need not move.
+qreal shown(qreal begin, qreal end, qreal now, qreal size)
+{
+    return std::min(begin, std::max(now, end - size));
+}
+
+// Whether the focus came by key. Places that the mouse reaches are in sight.
+bool isFocusedByKey(const QQuickItem &item)
+{
+    switch (item.property("focusReason").toInt()) {
+    case Qt::TabFocusReason:
+    case Qt::BacktabFocusReason:
+    case Qt::ShortcutFocusReason:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+QPointF ScrollBehavior::position() const
+{
+    return { pane()->property("contentX").toReal(), pane()->property("contentY").toReal() };
+}
+
+bool ScrollBehavior::scrollTo(qreal x, qreal y)
+{
+    QQuickItem &view = *pane();
+    const QPointF before = position();
+    const qreal maxX = std::max(0.0, view.property("contentWidth").toReal() - view.width());
+    const qreal maxY = std::max(0.0, view.property("contentHeight").toReal() - view.height());
+    const QPointF after(std::clamp(x, 0.0, maxX), std::clamp(y, 0.0, maxY));
+    if (after.x() != before.x())
+        view.setProperty("contentX", after.x());
+    if (after.y() != before.y())
+        view.setProperty("contentY", after.y());
+    return after != before;
+}
+
+void ScrollBehavior::reveal(QQuickItem *item)
+{
+    const auto *content = pane()->property("contentItem").value<QQuickItem *>();
+    const QRectF area
+        = item->mapRectToItem(content, QRectF(0, 0, item->width(), item->height()))
+              .marginsAdded({ kFocusMargin, kFocusMargin, kFocusMargin, kFocusMargin });
+    const QPointF now = position();
+    scrollTo(shown(area.left(), area.right(), now.x(), pane()->width()),
+        shown(area.top(), area.bottom(), now.y(), pane()->height()));
+    if (ScrollBehavior *outer = around(pane()))
+        outer->reveal(item);
+}
+
+ScrollBehavior *ScrollBehavior::around(const QQuickItem *item)
+{
+    for (const QQuickItem *at = item->parentItem(); at; at = at->parentItem()) {
+        if (auto *found = at->findChild<ScrollBehavior *>(QString(), Qt::FindDirectChildrenOnly))
+            return found;
+    }
+    return nullptr;
+}
+
+bool ScrollBehavior::scrollAround(const QQuickItem *item, const QWheelEvent &wheel)
+{
+    for (ScrollBehavior *at = around(item); at; at = around(at->pane())) {
+        if (at->follow(wheel))
+            return true;
+    }
+    return false;
+}
+
+void ScrollBehavior::componentComplete()
+{
+    QQuickItem *view = pane();
+    if (!view)
+        return;
+    view->installEventFilter(this);
+    connect(view, &QQuickItem::windowChanged, this, &ScrollBehavior::followWindow);
+    followWindow(view->window());
+}
+
+void ScrollBehavior::followWindow(QQuickWindow *window)
+{
+    if (m_window) {
+        m_window->removeEventFilter(this);
+        m_window->disconnect(this);
+    }
+    m_window = window;
+    if (window) {
+        window->installEventFilter(this);
+        connect(window, &QQuickWindow::activeFocusItemChanged, this, &ScrollBehavior::followFocus);
+    }
+}
+
+void ScrollBehavior::followFocus()
+{
+    QQuickItem *item = m_window->activeFocusItem();
+    // One of the panes around it begins; the others follow from within outwards, since a pane that
+    // moves takes the item with it.
+    if (item && isFocusedByKey(*item) && around(item) == this)
+        reveal(item);
+}
+
+bool ScrollBehavior::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::TouchBegin:
+        if (watched == m_window)
+            pane()->setProperty("interactive", true);
+        break;
+    case QEvent::MouseButtonPress: {
+        const auto type = static_cast<QMouseEvent *>(event)->pointingDevice()->type();
+        if (watched == m_window && type != QInputDevice::DeviceType::TouchScreen)
+            pane()->setProperty("interactive", false);
+        break;
+    }
+    case QEvent::Wheel:
+        if (watched == pane()) {
+            event->setAccepted(follow(*static_cast<QWheelEvent *>(event)));
+            return true;
+        }
+        break;
+    case QEvent::KeyPress:
+        if (watched == pane() && follow(*static_cast<QKeyEvent *>(event))) {
+            event->accept();
+            return true;
+        }
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+bool ScrollBehavior::follow(const QWheelEvent &wheel)
+{
+    const QPointF to = position() - distance(wheel);
+    return scrollTo(to.x(), to.y());
+}
+
+bool ScrollBehavior::follow(const QKeyEvent &key)
+{
+    const QPointF now = position();
+    const qreal page = pane()->height() - kKeyStep;
+    switch (key.key()) {
+    case Qt::Key_Up:
+        return scrollTo(now.x(), now.y() - kKeyStep);
+    case Qt::Key_Down:
+        return scrollTo(now.x(), now.y() + kKeyStep);
+    case Qt::Key_Left:
+        return scrollTo(now.x() - kKeyStep, now.y());
+    case Qt::Key_Right:
+        return scrollTo(now.x() + kKeyStep, now.y());
+    case Qt::Key_PageUp:
+        return scrollTo(now.x(), now.y() - page);
+    case Qt::Key_PageDown:
+        return scrollTo(now.x(), now.y() + page);
+    case Qt::Key_Home:
+        return scrollTo(now.x(), 0);
+    case Qt::Key_End:
+        return scrollTo(now.x(), std::numeric_limits<qreal>::max());
+    default:
+        return false;
+    }
+}
