@@ -46,7 +46,6 @@ FocusScope {
         anchors.bottomMargin: -12
         radius: 46
         blur: 16
-        hollow: true
         color: CNUI.gray(0, 0.65)
     }
     CameraBodyBackground {

@@ -7,40 +7,7 @@
 #include <QSGImageNode>
 #include <QSGNinePatchNode>
 
-#include <array>
 #include <utility>
-
-namespace {
-
-// A stretch of the picture along one axis, and where it is shown.
-struct Span {
-    double from;   ///< Pixels of the picture.
-    double pixels; ///< How many of them.
-    double to;     ///< Points.
-    double length; ///< Points.
-
-    [[nodiscard]] Span first(double part, double scale) const
-    {
-        return { from, part * scale, to, part };
-    }
-    [[nodiscard]] Span last(double part, double scale) const
-    {
-        return { from + pixels - part * scale, part * scale, to + length - part, part };
-    }
-};
-
-// The two borders, and the line of pixels between them that is stretched.
-std::array<Span, 3> spans(double start, double length, double pixels, int border, double scale)
-{
-    const double corner = border / scale;
-    return { {
-        { 0, double(border), start, corner },
-        { double(border), 1, start + corner, length - 2 * corner },
-        { pixels - border, double(border), start + length - corner, corner },
-    } };
-}
-
-} // namespace
 
 SoftShadow::SoftShadow(QQuickItem *parent)
     : PreparedItem(parent)
@@ -69,14 +36,6 @@ void SoftShadow::setBlur(qreal blur)
     if (m_blur == blur)
         return;
     m_blur = blur;
-    look();
-}
-
-void SoftShadow::setHollow(bool hollow)
-{
-    if (m_hollow == hollow)
-        return;
-    m_hollow = hollow;
     look();
 }
 
@@ -118,38 +77,6 @@ void SoftShadow::settle()
         std::exchange(m_patch, {}).wait();
 }
 
-// The nine-patch without its middle: four corners, and between them the edges, which end where the
-// blur does.
-QSGNode *SoftShadow::rim(const QRectF &reach, QSGTexture *texture, int border) const
-{
-    const double scale = renderScale();
-    const double depth = 2 * m_blur;
-    const QSizeF pixels = texture->textureSize();
-    const std::array columns = spans(reach.left(), reach.width(), pixels.width(), border, scale);
-    const std::array rows = spans(reach.top(), reach.height(), pixels.height(), border, scale);
-
-    auto *root = new QSGNode;
-    const auto add = [&](const Span &column, const Span &row) {
-        QSGImageNode *node = window()->createImageNode();
-        node->setOwnsTexture(!root->firstChild());
-        node->setTexture(texture);
-        node->setSourceRect(column.from, row.from, column.pixels, row.pixels);
-        node->setRect(column.to, row.to, column.length, row.length);
-        root->appendChildNode(node);
-    };
-    const auto &[left, center, right] = columns;
-    const auto &[top, middle, bottom] = rows;
-    add(left, top);
-    add(center, top.first(depth, scale));
-    add(right, top);
-    add(left.first(depth, scale), middle);
-    add(right.last(depth, scale), middle);
-    add(left, bottom);
-    add(center, bottom.last(depth, scale));
-    add(right, bottom);
-    return root;
-}
-
 QSGNode *SoftShadow::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
 {
     delete old;
@@ -169,8 +96,6 @@ QSGNode *SoftShadow::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
         node->setRect(reach);
         return node;
     }
-    if (m_hollow)
-        return rim(reach, texture, patch.border);
     QSGNinePatchNode *node = window()->createNinePatchNode();
     node->setTexture(texture); // owned by the node
     node->setBounds(reach);

@@ -6,8 +6,6 @@
 
 #include <QColor>
 
-class QSGTexture;
-
 /// The soft shadow, or glow, of a rounded rectangle as large as this item.
 ///
 /// It spreads `blur` beyond the item on all sides and takes no clicks. Drawn as a nine-patch of a
@@ -20,7 +18,6 @@ class SoftShadow : public PreparedItem
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY lookChanged)
     Q_PROPERTY(qreal radius READ radius WRITE setRadius NOTIFY lookChanged)
     Q_PROPERTY(qreal blur READ blur WRITE setBlur NOTIFY lookChanged)
-    Q_PROPERTY(bool hollow READ hollow WRITE setHollow NOTIFY lookChanged)
 public:
     explicit SoftShadow(QQuickItem *parent = nullptr);
 
@@ -32,11 +29,6 @@ public:
     /// Reach of the blur, at least 0.
     [[nodiscard]] qreal blur() const { return m_blur; }
     void setBlur(qreal blur);
-    /// True where something opaque hides the shape but for its edge, as deep as the blur: no more
-    /// of a large shape is drawn then. A whole window's shadow takes more than a millisecond to
-    /// draw.
-    [[nodiscard]] bool hollow() const { return m_hollow; }
-    void setHollow(bool hollow);
 
 Q_SIGNALS:
     void lookChanged();
@@ -51,11 +43,9 @@ private:
     void look();
     [[nodiscard]] bool isSeen() const;
     [[nodiscard]] std::shared_future<ShadowPatch> startedPatch() const;
-    [[nodiscard]] QSGNode *rim(const QRectF &reach, QSGTexture *texture, int border) const;
 
     std::shared_future<ShadowPatch> m_patch; ///< Until updatePaintNode() takes it.
     QColor m_color = Qt::black;
     qreal m_radius = 0;
     qreal m_blur = 0;
-    bool m_hollow = false;
 };
