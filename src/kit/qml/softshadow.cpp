@@ -4,7 +4,6 @@
 #include "kit/zoom.h"
 
 #include <QQuickWindow>
-#include <QSGImageNode>
 #include <QSGNinePatchNode>
 
 #include <utility>
@@ -89,18 +88,11 @@ QSGNode *SoftShadow::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
     const QRectF reach = boundingRect().adjusted(-m_blur, -m_blur, m_blur, m_blur);
     QSGTexture *texture = window()->createTextureFromImage(patch.image);
     texture->setFiltering(QSGTexture::Linear);
-    if (patch.border == 0) {
-        QSGImageNode *node = window()->createImageNode();
-        node->setOwnsTexture(true);
-        node->setTexture(texture);
-        node->setRect(reach);
-        return node;
-    }
     QSGNinePatchNode *node = window()->createNinePatchNode();
     node->setTexture(texture); // owned by the node
     node->setBounds(reach);
     node->setDevicePixelRatio(renderScale());
-    node->setPadding(patch.border, patch.border, patch.border, patch.border);
+    node->setPadding(patch.sideBorder, patch.endBorder, patch.sideBorder, patch.endBorder);
     node->update();
     return node;
 }
