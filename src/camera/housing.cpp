@@ -63,9 +63,11 @@ QImage reliefTile(const QColor &tint, double scale)
 void paint(QPainter &painter, const Body &body)
 {
     const QRectF area({}, body.size);
-    const double scale = double(body.pixels.width()) / body.size.width();
+    const double scale = body.pixels.width() / body.size.width();
     const HVColors &c = body.colors;
-    painter.setClipRegion(QRegion(area.toRect()) - QRegion(body.display.toRect()));
+    // What covers the body may be shown up to a pixel beside its place.
+    const QRect hidden = inset(body.display, 1).toRect();
+    painter.setClipRegion(QRegion(area.toAlignedRect()) - QRegion(hidden));
 
     const QPainterPath metal = continuousPath(area, kBodyRadius);
     painter.fillPath(metal, verticalBrush(area, c.bodyHi(), c.body(), c.bodyLo()));

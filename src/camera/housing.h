@@ -12,7 +12,7 @@
 namespace Housing {
 
 struct Body {
-    QSize size;     ///< Points.
+    QSizeF size;    ///< Points.
     QRectF display; ///< What something opaque covers; it isn't painted.
     HVColors colors;
     QSize pixels;
@@ -21,7 +21,7 @@ struct Body {
 };
 
 struct Glass {
-    QSize size; ///< Points.
+    QSizeF size; ///< Points.
     HVColors colors;
     QSize pixels;
 

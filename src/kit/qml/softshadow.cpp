@@ -1,53 +1,54 @@
 #include "softshadow.h"
 
-#include "kit/preferences.h"
-#include "kit/zoom.h"
-
+#include <QMatrix4x4>
 #include <QQuickWindow>
 #include <QSGNinePatchNode>
+#include <QSGTransformNode>
 
 #include <utility>
 
-SoftShadow::SoftShadow(QQuickItem *parent)
-    : PreparedItem(parent)
-{
-    Preferences::shared().follow(CNZoom::key, this, [this] { repaint(); });
-}
+namespace {
 
-void SoftShadow::setColor(const QColor &color)
+// Counts in device pixels: a nine-patch in logical units would have its seams between pixels at
+// most zooms, and they would be seen.
+class ShadowNode : public QSGTransformNode
 {
-    if (m_color == color)
-        return;
-    m_color = color;
-    look();
-}
+public:
+    explicit ShadowNode(QQuickWindow *window)
+        : m_patch(window->createNinePatchNode())
+    {
+        appendChildNode(m_patch);
+    }
 
-void SoftShadow::setRadius(qreal radius)
-{
-    if (m_radius == radius)
-        return;
-    m_radius = radius;
-    look();
-}
+    void setPatch(QSGTexture *texture, const ShadowPatch &patch, const QRect &bounds)
+    {
+        m_patch->setTexture(texture); // owned by the node
+        m_patch->setBounds(bounds);
+        m_patch->setPadding(patch.sideBorder, patch.endBorder, patch.sideBorder, patch.endBorder);
+        m_patch->update();
+    }
 
-void SoftShadow::setBlur(qreal blur)
-{
-    if (m_blur == blur)
-        return;
-    m_blur = blur;
-    look();
-}
+    // Where a device pixel is in the item's coordinates.
+    void setUnit(const QRectF &pixel)
+    {
+        QMatrix4x4 matrix;
+        matrix.translate(float(pixel.x()), float(pixel.y()));
+        matrix.scale(float(pixel.width()), float(pixel.height()));
+        if (matrix != this->matrix())
+            setMatrix(matrix);
+    }
 
-void SoftShadow::look()
-{
-    repaint();
-    Q_EMIT lookChanged();
-}
+private:
+    QSGNinePatchNode *m_patch;
+};
+
+} // namespace
 
 void SoftShadow::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
     PreparedItem::geometryChange(newGeometry, oldGeometry);
-    repaint();
+    if (newGeometry.size() != oldGeometry.size())
+        repaint();
 }
 
 bool SoftShadow::isSeen() const
@@ -60,8 +61,7 @@ std::shared_future<ShadowPatch> SoftShadow::startedPatch() const
     // Blurred in the pixels of the screen, so that a magnified shadow stays smooth.
     const double scale = renderScale();
     const double radius = qMin(m_radius, qMin(width(), height()) / 2);
-    return startShadowPatch(
-        (size() * scale).toSize(), qRound(radius * scale), qRound(m_blur * scale), m_color);
+    return startShadowPatch(deviceSize(), qRound(radius * scale), qRound(m_blur * scale), m_color);
 }
 
 void SoftShadow::prepare()
@@ -78,21 +78,24 @@ void SoftShadow::settle()
 
 QSGNode *SoftShadow::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
 {
-    delete old;
-    if (!isSeen())
+    if (!isSeen()) {
+        delete old;
         return nullptr;
-    if (!m_patch.valid())
-        m_patch = startedPatch();
-    const ShadowPatch patch = std::exchange(m_patch, {}).get();
-
-    const QRectF reach = boundingRect().adjusted(-m_blur, -m_blur, m_blur, m_blur);
-    QSGTexture *texture = window()->createTextureFromImage(patch.image);
-    texture->setFiltering(QSGTexture::Linear);
-    QSGNinePatchNode *node = window()->createNinePatchNode();
-    node->setTexture(texture); // owned by the node
-    node->setBounds(reach);
-    node->setDevicePixelRatio(renderScale());
-    node->setPadding(patch.sideBorder, patch.endBorder, patch.sideBorder, patch.endBorder);
-    node->update();
+    }
+    auto *node = static_cast<ShadowNode *>(old);
+    if (!node) {
+        node = new ShadowNode(window());
+        if (!m_patch.valid())
+            m_patch = startedPatch();
+    }
+    if (m_patch.valid()) { // or else the item has only been moved
+        const ShadowPatch patch = std::exchange(m_patch, {}).get();
+        QSGTexture *texture = window()->createTextureFromImage(patch.image);
+        texture->setFiltering(isUpright() ? QSGTexture::Nearest : QSGTexture::Linear);
+        const int reach = qRound(m_blur * renderScale());
+        node->setPatch(
+            texture, patch, QRect({}, deviceSize()).adjusted(-reach, -reach, reach, reach));
+    }
+    node->setUnit(onDevice({ 0, 0, 1, 1 }));
     return node;
 }
