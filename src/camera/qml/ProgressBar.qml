@@ -1,9 +1,10 @@
 import QtQuick
+import Halvorin.Kit
 import Halvorin.Camera
 
 /*! A slim bar: how many of something are done. The caller gives its width and height, and says in
     words what it shows. */
-Rectangle {
+ContinuousRectangle {
     id: root
 
     required property int done
@@ -11,13 +12,13 @@ Rectangle {
     required property hvColors c
 
     radius: height / 2
-    color: Qt.alpha(root.c.glow, 0.12)
+    fillFrom: Qt.alpha(root.c.glow, 0.12)
 
-    Rectangle {
+    ContinuousRectangle {
         visible: width > 0
         width: root.total > 0 ? parent.width * Math.min(1, root.done / root.total) : 0
         height: parent.height
         radius: root.radius
-        color: root.c.glow
+        fillFrom: root.c.glow
     }
 }
