@@ -20,10 +20,12 @@ constexpr double kLeatherInset = 10;
 constexpr double kLeatherRadius = 40;
 constexpr double kLeatherOpacity = 0.55;
 // Pebbles stand out by their edges: a lit copy of the tile peeps out above each one and a dark
-// copy below, as under a lamp at the top left.
+// copy below, as under a lamp at the top left. How far either moves the metal's lightness is the
+// same on every body: black of one opacity would be faint on black metal and like ink on gray. The
+// light has more to do, as the pebbles themselves are a little darker than the upper metal.
 constexpr double kPebbleRelief = 0.7;
-constexpr double kPebbleLight = 0.1;
-constexpr double kPebbleShade = 0.5;
+constexpr double kPebbleLight = 0.13;
+constexpr double kPebbleShade = 0.08;
 
 constexpr double kBezel = 7;
 constexpr double kBezelRadius = 28;
@@ -39,8 +41,10 @@ QPainterPath ring(const QRectF &outer, double outerRadius, double width, double 
 
 // The three layers over one another, ready to be laid on the metal. Two of them lie between pixels
 // and have to be filtered; that is done over one tile instead of the whole body.
-QImage reliefTile(const QColor &tint, double scale)
+QImage reliefTile(const HVColors &c, double scale)
 {
+    const double metal = qGray(c.bodyHi().rgb()) / 255.0;
+
     QImage tile = Textures::leatherTile(gray(0), scale);
     const QImage black = tile;
     tile.fill(Qt::transparent);
@@ -54,9 +58,9 @@ QImage reliefTile(const QColor &tint, double scale)
         painter.fillRect(
             QRectF(0, 0, Textures::leatherTileSide, Textures::leatherTileSide), leather);
     };
-    lay(Textures::leatherTile(gray(1), scale), kPebbleLight, -kPebbleRelief);
-    lay(black, kPebbleShade, kPebbleRelief);
-    lay(Textures::leatherTile(tint, scale), kLeatherOpacity, 0);
+    lay(Textures::leatherTile(gray(1), scale), kPebbleLight / (1 - metal), -kPebbleRelief);
+    lay(black, kPebbleShade / metal, kPebbleRelief);
+    lay(Textures::leatherTile(c.leather(), scale), kLeatherOpacity, 0);
     return tile;
 }
 
@@ -73,7 +77,7 @@ void paint(QPainter &painter, const Body &body)
     painter.fillPath(metal, verticalBrush(area, c.bodyHi(), c.body(), c.bodyLo()));
 
     painter.fillPath(
-        continuousPath(inset(area, kLeatherInset), kLeatherRadius), reliefTile(c.leather(), scale));
+        continuousPath(inset(area, kLeatherInset), kLeatherRadius), reliefTile(c, scale));
 
     paintPanel(painter, area,
         {
