@@ -29,7 +29,6 @@ class Geometry : public QObject
     Q_PROPERTY(qreal displayRadius MEMBER displayRadius CONSTANT)
     Q_PROPERTY(qreal cardRadius MEMBER cardRadius CONSTANT)
     Q_PROPERTY(qreal buttonRadius MEMBER buttonRadius CONSTANT)
-    Q_PROPERTY(qreal ringWidth MEMBER ringWidth CONSTANT)
     Q_PROPERTY(qreal ringGlow MEMBER ringGlow CONSTANT)
 public:
     /// Of the camera; a menu bar stands above it.

@@ -1,5 +1,6 @@
 #include "camera/housing.h"
 
+#include "camera/geometry.h"
 #include "camera/textures.h"
 #include "kit/continuouspath.h"
 #include "kit/gradients.h"
@@ -12,19 +13,14 @@ using namespace Housing;
 
 namespace {
 
-constexpr double kBodyRadius = 46;
-constexpr double kLeatherInset = 10;
-constexpr double kLeatherRadius = 40;
 constexpr double kLeatherOpacity = 0.55;
 // Pebbles stand out by their edges: a lit copy of the tile peeps out above each one and a dark
-// copy below, as under a lamp at the top left.
+// copy below, as under a lamp at the top left. How far either moves the metal's lightness is the
+// same on every body: black of one opacity would be faint on black metal and like ink on gray. The
+// light has more to do, as the pebbles themselves are a little darker than the upper metal.
 constexpr double kPebbleRelief = 0.7;
-constexpr double kPebbleLight = 0.1;
-constexpr double kPebbleShade = 0.5;
-
-constexpr double kBezel = 7;
-constexpr double kBezelRadius = 28;
-constexpr double kGlassRadius = 22;
+constexpr double kPebbleLight = 0.13;
+constexpr double kPebbleShade = 0.08;
 
 QPainterPath ring(const QRectF &outer, double outerRadius, double width, double innerRadius)
 {
@@ -36,8 +32,10 @@ QPainterPath ring(const QRectF &outer, double outerRadius, double width, double 
 
 // The three layers over one another, ready to be laid on the metal. Two of them lie between pixels
 // and have to be filtered; that is done over one tile instead of the whole body.
-QImage reliefTile(const QColor &tint, double scale)
+QImage reliefTile(const HVColors &c, double scale)
 {
+    const double metal = qGray(c.bodyHi().rgb()) / 255.0;
+
     QImage tile = Textures::leatherTile(gray(0), scale);
     const QImage black = tile;
     tile.fill(Qt::transparent);
@@ -51,28 +49,30 @@ QImage reliefTile(const QColor &tint, double scale)
         painter.fillRect(
             QRectF(0, 0, Textures::leatherTileSide, Textures::leatherTileSide), leather);
     };
-    lay(Textures::leatherTile(gray(1), scale), kPebbleLight, -kPebbleRelief);
-    lay(black, kPebbleShade, kPebbleRelief);
-    lay(Textures::leatherTile(tint, scale), kLeatherOpacity, 0);
+    lay(Textures::leatherTile(gray(1), scale), kPebbleLight / (1 - metal), -kPebbleRelief);
+    lay(black, kPebbleShade / metal, kPebbleRelief);
+    lay(Textures::leatherTile(c.leather(), scale), kLeatherOpacity, 0);
     return tile;
 }
 
 void paint(QPainter &painter, const Body &body)
 {
     const QRectF area({}, body.size);
-    const double scale = double(body.pixels.width()) / body.size.width();
+    const double scale = body.pixels.width() / body.size.width();
     const HVColors &c = body.colors;
-    painter.setClipRegion(QRegion(area.toRect()) - QRegion(body.display.toRect()));
+    // What covers the body may be shown up to a pixel beside its place.
+    const QRect hidden = inset(body.display, 1).toRect();
+    painter.setClipRegion(QRegion(area.toAlignedRect()) - QRegion(hidden));
 
-    const QPainterPath metal = continuousPath(area, kBodyRadius);
+    const QPainterPath metal = continuousPath(area, Geometry::bodyRadius);
     painter.fillPath(metal, verticalBrush(area, c.bodyHi(), c.body(), c.bodyLo()));
 
     painter.fillPath(
-        continuousPath(inset(area, kLeatherInset), kLeatherRadius), reliefTile(c.leather(), scale));
+        continuousPath(inset(area, Geometry::leatherInset), Geometry::leatherRadius), reliefTile(c, scale));
 
     paintPanel(painter, area,
         {
-            .radius = kBodyRadius,
+            .radius = Geometry::bodyRadius,
             .stroke = verticalBrush(area, gray(1, 0.28), {}, gray(0, 0.7)),
             .strokeWidth = 1.5,
         });
@@ -81,14 +81,14 @@ void paint(QPainter &painter, const Body &body)
 void paint(QPainter &painter, const Glass &look)
 {
     const QRectF area({}, look.size);
-    const QRectF glass = inset(area, kBezel);
+    const QRectF glass = inset(area, Geometry::bezel);
     const HVColors &c = look.colors;
 
-    painter.fillPath(ring(area, kBezelRadius, kBezel, kGlassRadius),
+    painter.fillPath(ring(area, Geometry::bezelRadius, Geometry::bezel, Geometry::glassRadius),
         verticalBrush(area, c.bodyLo(), {}, gray(0.12)));
     paintPanel(painter, area,
         {
-            .radius = kBezelRadius,
+            .radius = Geometry::bezelRadius,
             .stroke = verticalBrush(area, gray(0, 0.9), {}, gray(1, 0.18)),
             .strokeWidth = 1.2,
         });
@@ -96,10 +96,8 @@ void paint(QPainter &painter, const Glass &look)
     QLinearGradient sheen(glass.topLeft(), glass.center());
     sheen.setColorAt(0, gray(1, 0.05));
     sheen.setColorAt(1, gray(1, 0));
-    QColor rim = c.glow();
-    rim.setAlphaF(0.18f);
     paintPanel(
-        painter, glass, { .radius = kGlassRadius, .fill = sheen, .stroke = rim, .strokeWidth = 1 });
+        painter, glass, { .radius = Geometry::glassRadius, .fill = sheen, .stroke = c.glassEdge(), .strokeWidth = 1 });
 }
 
 } // namespace

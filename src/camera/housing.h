@@ -12,14 +12,14 @@
 namespace Housing {
 
 struct Body {
-    QSize size;     ///< Points.
+    QSizeF size;    ///< Points.
     QRectF display; ///< What something opaque covers; it isn't painted.
     HVColors colors;
     QSize pixels;
 };
 
 struct Glass {
-    QSize size; ///< Points.
+    QSizeF size; ///< Points.
     HVColors colors;
     QSize pixels;
 };

@@ -52,6 +52,7 @@ struct HVColors {
     Q_PROPERTY(QColor fieldFill READ fieldFill)
     Q_PROPERTY(QColor contents READ contents)
     Q_PROPERTY(QColor callout READ callout)
+    Q_PROPERTY(QColor glassEdge READ glassEdge)
 public:
     using RGB = CRVNTheme::RGB;
 
@@ -118,6 +119,8 @@ public:
     [[nodiscard]] QColor contents() const { return tint(oledCard(), 0.6f); }
     /// Warm in every theme: a callout is a warning, whatever the camera wears.
     [[nodiscard]] QColor callout() const { return tint(warn(), 0.08f); }
+    /// Where the display's glass meets its bezel.
+    [[nodiscard]] QColor glassEdge() const { return tint(glow(), 0.18f); }
 
     friend bool operator==(const HVColors &, const HVColors &) = default;
 

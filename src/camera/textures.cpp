@@ -1,19 +1,21 @@
 #include "camera/textures.h"
 
 #include "kit/gradients.h"
+#include "kit/picturecache.h"
 
-#include <QHash>
-#include <QMutex>
 #include <QPainter>
 
 #include <cmath>
-#include <map>
-#include <tuple>
+#include <utility>
 
 namespace {
 
 constexpr int kPebbleStep = 5;
 constexpr double kKnurlStep = 7;
+
+// The tiles of every theme on the finest screen.
+constexpr qsizetype kKeptLeather = 24 * 1024 * 1024;
+constexpr qsizetype kKeptKnurls = 4 * 1024 * 1024;
 
 // The multiplier and increment are those of D. E. Knuth's MMIX generator; its low bits are weak,
 // so a draw takes the high ones.
@@ -72,12 +74,16 @@ QImage tinted(QImage picture, const QColor &tint)
     return picture;
 }
 
+QSize knurlPixels(QSizeF size, double scale)
+{
+    return { qCeil(size.width() * scale), qCeil(size.height() * scale) };
+}
+
 // Lines drawn opaque on a picture of their own: drawn straight onto the metal, a translucent ink
 // would be darker where they cross.
 QImage grooves(QSizeF size, double scale, double width, double shift, const QColor &ink)
 {
-    const QSize pixels(qCeil(size.width() * scale), qCeil(size.height() * scale));
-    QImage picture(pixels, QImage::Format_ARGB32_Premultiplied);
+    QImage picture(knurlPixels(size, scale), QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -108,20 +114,13 @@ namespace Textures {
 
 QImage leatherTile(const QColor &tint, double scale)
 {
-    static QMutex mutex;
-    static QHash<int, QImage> shapes;
-    static QHash<std::pair<QRgb, int>, QImage> tiles;
+    static PictureCache<std::pair<QRgb, int>, QImage> tiles(kKeptLeather);
 
     const QColor color = tint.isValid() ? tint.toRgb() : gray(0.5);
-    const std::pair key(color.rgba(), scaleKey(scale));
-    const QMutexLocker lock(&mutex);
-    if (const auto found = tiles.constFind(key); found != tiles.constEnd())
-        return *found;
-
-    QImage &shape = shapes[scaleKey(scale)];
-    if (shape.isNull())
-        shape = pebbles(scale);
-    return *tiles.insert(key, tinted(shape, color));
+    const qsizetype side = qCeil(leatherTileSide * scale);
+    return tiles.picture({ color.rgba(), scaleKey(scale) }, 4 * side * side, [&] {
+        return color == gray(0) ? pebbles(scale) : tinted(leatherTile(gray(0), scale), color);
+    });
 }
 
 QPainterPath knurlPath(QSizeF size)
@@ -142,20 +141,17 @@ QPainterPath knurlPath(QSizeF size)
 
 void paintKnurl(QPainter &painter, QSizeF size)
 {
-    static QMutex mutex;
-    static std::map<std::tuple<int, int, int>, QImage> pictures;
+    static PictureCache<std::pair<std::pair<int, int>, int>, QImage> pictures(kKeptKnurls);
 
     // The pixels of the device under the painter, however it is turned.
     const QTransform transform = painter.deviceTransform();
     const double scale = std::hypot(transform.m11(), transform.m12());
     if (size.isEmpty() || scale <= 0)
         return;
-    const std::tuple key(qRound(size.width() * 100), qRound(size.height() * 100), scaleKey(scale));
-    QMutexLocker lock(&mutex);
-    QImage &picture = pictures[key];
-    if (picture.isNull())
-        picture = knurls(size, scale);
-    lock.unlock();
+    const std::pair hundredths(qRound(size.width() * 100), qRound(size.height() * 100));
+    const QSize pixels = knurlPixels(size, scale);
+    const QImage picture = pictures.picture({ hundredths, scaleKey(scale) },
+        qsizetype(4) * pixels.width() * pixels.height(), [&] { return knurls(size, scale); });
 
     painter.save();
     painter.setRenderHint(QPainter::SmoothPixmapTransform);

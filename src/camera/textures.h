@@ -16,7 +16,7 @@ inline constexpr int leatherTileSide = 160;
 
 /// The leather tile: pebbles of `tint` on a transparent ground, leatherTileSide points square,
 /// meant to be laid side by side. `scale` is device pixels per point and becomes the image's
-/// device pixel ratio. An invalid tint counts as gray. Tiles are kept for the life of the process.
+/// device pixel ratio. An invalid tint counts as gray. Tiles are kept, those of all themes at once.
 [[nodiscard]] QImage leatherTile(const QColor &tint, double scale = 1);
 
 /// Diagonal lines crossing at 45°, 7 points apart, over an area of `size`.

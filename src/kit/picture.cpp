@@ -18,7 +18,7 @@ int bandCount(QSize size, const QThreadPool &pool)
 class Painting
 {
 public:
-    Painting(QSize pixels, QSize points, std::function<void(QPainter &)> paint)
+    Painting(QSize pixels, QSizeF points, std::function<void(QPainter &)> paint)
         : m_picture(pixels, QImage::Format_ARGB32_Premultiplied)
         , m_bits(m_picture.bits())
         , m_points(points)
@@ -46,14 +46,13 @@ private:
         QPainter painter(&band);
         painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
         painter.translate(0, -from);
-        painter.scale(double(m_picture.width()) / m_points.width(),
-            double(m_picture.height()) / m_points.height());
+        painter.scale(m_picture.width() / m_points.width(), m_picture.height() / m_points.height());
         m_paint(painter);
     }
 
     QImage m_picture;
     uchar *m_bits; ///< nullptr where there are no pixels.
-    QSize m_points;
+    QSizeF m_points;
     std::function<void(QPainter &)> m_paint;
     std::atomic<int> m_bandsLeft = 0;
     std::promise<QImage> m_done;
@@ -62,7 +61,7 @@ private:
 } // namespace
 
 std::shared_future<QImage> startPicture(
-    QSize pixels, QSize points, std::function<void(QPainter &)> paint)
+    QSize pixels, QSizeF points, std::function<void(QPainter &)> paint)
 {
     const auto painting = std::make_shared<Painting>(pixels, points, std::move(paint));
     std::shared_future<QImage> picture = painting->future();

@@ -26,7 +26,7 @@ class QPainter;
 /// run in the global pool: these would wait behind it. A thread of the pool opens fonts of its own;
 /// what is mostly text is better painted without this.
 [[nodiscard]] std::shared_future<QImage> startPicture(
-    QSize pixels, QSize points, std::function<void(QPainter &)> paint);
+    QSize pixels, QSizeF points, std::function<void(QPainter &)> paint);
 
 /// Starts `make`, which makes a picture by other means, where pictures are painted. It must not
 /// wait for another of them.

@@ -2,9 +2,8 @@
 
 #include "kit/continuouspath.h"
 #include "kit/picture.h"
+#include "kit/picturecache.h"
 
-#include <QHash>
-#include <QMutex>
 #include <QPainter>
 
 #include <array>
@@ -12,6 +11,9 @@
 #include <vector>
 
 namespace {
+
+// A dozen of the largest shadows on the finest screens.
+constexpr qsizetype kKeptBytes = 16 * 1024 * 1024;
 
 // One byte of opacity a pixel, rows from the top.
 struct Plane {
@@ -63,29 +65,6 @@ void blurColumns(Plane &plane, int reach)
                 target[x] = uchar((sums[x] * share + (1U << 23)) >> 24);
         }
     }
-}
-
-// The picture with its middle column and row repeated until it has `size`. It is blurred short,
-// since nothing changes along the middle of a long shape; a nine-patch would show a seam at some
-// zooms.
-QImage lengthened(const QImage &picture, QSize size)
-{
-    if (picture.size() == size)
-        return picture;
-
-    const auto source = [](int at, int length, int whole) {
-        const int middle = whole / 2;
-        return std::min(at, middle) + std::max(0, at - (length - whole) - middle);
-    };
-    QImage result(size, picture.format());
-    for (int y = 0; y < size.height(); ++y) {
-        const auto *from = reinterpret_cast<const QRgb *>(
-            picture.constScanLine(source(y, size.height(), picture.height())));
-        auto *to = reinterpret_cast<QRgb *>(result.scanLine(y));
-        for (int x = 0; x < size.width(); ++x)
-            to[x] = from[source(x, size.width(), picture.width())];
-    }
-    return result;
 }
 
 // A rounded rectangle of `size` with the margin that softBlur() wants.
@@ -157,27 +136,23 @@ QImage softBlur(const QImage &mask, double radius, const QColor &color)
 std::shared_future<ShadowPatch> startShadowPatch(
     QSize size, int cornerRadius, int blurRadius, const QColor &color)
 {
-    static QMutex mutex;
-    static QHash<PatchKey, std::shared_future<ShadowPatch>> patches;
+    static PictureCache<PatchKey, std::shared_future<ShadowPatch>> patches(kKeptBytes);
 
-    // A continuous corner eases over 1.6 radii, and the blur reaches inwards as far as outwards.
+    // A continuous corner eases over 1.6 radii, and the blur reaches inwards as far as outwards:
+    // in the middle of a side longer than twice that, nothing changes along it.
     const int corner = int(std::ceil(1.6 * cornerRadius)) + blurRadius;
-    const QSize smallest(2 * corner + 1, 2 * corner + 1);
-    const QSize shape = size.boundedTo(smallest);
-    const bool stretches = shape == smallest;
+    const int longest = 2 * corner + 1;
+    const QSize shape = size.boundedTo({ longest, longest });
+    const int border = corner + blurRadius;
+    const int sideBorder = shape.width() == longest ? border : 0;
+    const int endBorder = shape.height() == longest ? border : 0;
 
-    const PatchKey key{ stretches ? smallest : size, cornerRadius, blurRadius, color.rgba() };
-    const QMutexLocker lock(&mutex);
-    std::shared_future<ShadowPatch> &patch = patches[key];
-    if (patch.valid())
-        return patch;
-
-    patch = startBesidePictures([=] {
-        const QImage mask = roundedMask(shape, cornerRadius, blurRadius);
-        const QImage blurred = softBlur(mask, blurRadius, color);
-        if (stretches)
-            return ShadowPatch{ blurred, corner + blurRadius };
-        return ShadowPatch{ lengthened(blurred, mask.size() + size - shape), 0 };
+    const PatchKey key{ shape, cornerRadius, blurRadius, color.rgba() };
+    const QSize pixels = shape.grownBy({ blurRadius, blurRadius, blurRadius, blurRadius });
+    return patches.picture(key, qsizetype(4) * pixels.width() * pixels.height(), [=] {
+        return startBesidePictures([=] {
+            const QImage mask = roundedMask(shape, cornerRadius, blurRadius);
+            return ShadowPatch{ softBlur(mask, blurRadius, color), sideBorder, endBorder };
+        });
     });
-    return patch;
 }

@@ -15,15 +15,19 @@
 /// Returns  the same size, ARGB32_Premultiplied, with the mask's device pixel ratio.
 [[nodiscard]] QImage softBlur(const QImage &mask, double radius, const QColor &color);
 
-/// A blurred rounded rectangle as a picture with a border that must not be stretched.
+/// A blurred rounded rectangle as a picture with borders that must not be stretched.
 struct ShadowPatch {
-    QImage image;   ///< Device pixels.
-    int border = 0; ///< Device pixels on each side; 0 if the picture fits only its own shape.
+    QImage image; ///< Device pixels.
+    /// Device pixels at the left and at the right that stay as they are; the one column between
+    /// them is stretched. 0 if the picture is as wide as it is shown.
+    int sideBorder = 0;
+    /// The same at the top and at the bottom.
+    int endBorder = 0;
 };
 
 /// Starts the shadow of a rounded rectangle of `size`, corners of `cornerRadius`, blurred by
-/// `blurRadius`; all in device pixels. The picture holds `blurRadius` of margin on all sides. For
-/// a large shape it is small and meant to be stretched as a nine-patch, so it serves every large
-/// size; a small shape gets a picture of its own. Pictures are kept: asking again costs nothing.
+/// `blurRadius`; all in device pixels. The picture holds `blurRadius` of margin on all sides. It is
+/// meant to be stretched as a nine-patch along each side that is long enough, so one picture serves
+/// all lengths. Pictures are kept, within a bound: asking again soon costs nothing.
 [[nodiscard]] std::shared_future<ShadowPatch> startShadowPatch(
     QSize size, int cornerRadius, int blurRadius, const QColor &color);

@@ -189,6 +189,7 @@ TEST(Palette, LaysItsTintsThinlyOverWhatIsThere)
         { c.fieldFill(), c.oled(), 0.45f },
         { c.contents(), c.oledCard(), 0.6f },
         { c.callout(), c.warn(), 0.08f },
+        { c.glassEdge(), c.glow(), 0.18f },
     };
     for (const auto &[tint, of, opacity] : kTints) {
         EXPECT_NEAR(tint.alphaF(), opacity, 1.0 / 65535);

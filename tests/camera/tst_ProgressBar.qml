@@ -32,10 +32,10 @@ TestCase {
         const item = createTemporaryObject(bars, test, { done: data.done, total: data.total });
         const fill = item.children[0];
         compare(item.width, 200);
-        compare(String(item.color), String(Qt.alpha(CameraPalette.current.glow, 0.12)));
+        compare(String(item.fillFrom), String(Qt.alpha(CameraPalette.current.glow, 0.12)));
         compare(fill.width, data.width);
         compare(fill.visible, data.width > 0);
         compare(fill.height, 4);
-        compare(String(fill.color), String(CameraPalette.current.glow));
+        compare(String(fill.fillFrom), String(CameraPalette.current.glow));
     }
 }

@@ -4,7 +4,6 @@
 
 #include "kit/preferences.h"
 #include "kit/printing.h"
-#include "kit/zoom.h"
 
 #include <QPainter>
 #include <QQuickWindow>
@@ -171,9 +170,9 @@ TEST_F(DiagramCanvasTest, HasATextureAsFineAsTheScreen)
 {
     CountingCanvas *canvas = add(u"tripod"_s, { 0, 0, 500, 325 });
     EXPECT_EQ(canvas->textureSize(), QSize(500, 325));
-    CNZoom::setValue(2);
+    canvas->parentItem()->setScale(2);
     EXPECT_EQ(canvas->textureSize(), QSize(1000, 650));
-    CNZoom::setValue(1);
+    canvas->parentItem()->setScale(1);
 }
 
 TEST_F(DiagramCanvasTest, NeverHasATextureOfMoreThan64Megabytes)

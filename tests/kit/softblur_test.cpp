@@ -80,17 +80,17 @@ QImage blurredShape(QSize size, int cornerRadius, int blurRadius)
 QImage stretched(const ShadowPatch &patch, QSize size)
 {
     QImage result = blank(size);
-    const auto source = [&](int at, int length, int whole) {
-        if (at < patch.border)
+    const auto source = [](int at, int length, int whole, int border) {
+        if (border == 0 || at < border)
             return at;
         const int fromEnd = length - 1 - at;
-        return fromEnd < patch.border ? whole - 1 - fromEnd : patch.border;
+        return fromEnd < border ? whole - 1 - fromEnd : border;
     };
     for (int y = 0; y < size.height(); ++y) {
         for (int x = 0; x < size.width(); ++x) {
             result.setPixel(x, y,
-                patch.image.pixel(source(x, size.width(), patch.image.width()),
-                    source(y, size.height(), patch.image.height())));
+                patch.image.pixel(source(x, size.width(), patch.image.width(), patch.sideBorder),
+                    source(y, size.height(), patch.image.height(), patch.endBorder)));
         }
     }
     return result;
@@ -272,9 +272,10 @@ TEST(SoftBlur, OfNothingIsNothing)
 TEST(ShadowPatch, OfALargeShapeIsASmallPictureWithOneLineToStretch)
 {
     const ShadowPatch patch = shadowPatch({ 900, 500 }, 20, 12, Qt::black);
-    EXPECT_GT(patch.border, 0);
-    EXPECT_EQ(patch.image.width(), 2 * patch.border + 1);
-    EXPECT_EQ(patch.image.height(), 2 * patch.border + 1);
+    EXPECT_GT(patch.sideBorder, 0);
+    EXPECT_EQ(patch.endBorder, patch.sideBorder);
+    EXPECT_EQ(patch.image.width(), 2 * patch.sideBorder + 1);
+    EXPECT_EQ(patch.image.height(), 2 * patch.endBorder + 1);
     EXPECT_LT(patch.image.width(), 200);
 }
 
@@ -290,7 +291,8 @@ TEST(ShadowPatch, StretchedIsTheShadowOfTheWholeShape)
         SCOPED_TRACE(shape.corner);
         const QImage whole = blurredShape(shape.size, shape.corner, shape.blur);
         const ShadowPatch patch = shadowPatch(shape.size, shape.corner, shape.blur, Qt::black);
-        ASSERT_GT(patch.border, 0);
+        ASSERT_GT(patch.sideBorder, 0);
+        ASSERT_GT(patch.endBorder, 0);
         const QImage nine = stretched(patch, whole.size());
         for (int y = 0; y < whole.height(); ++y) {
             for (int x = 0; x < whole.width(); ++x)
@@ -305,38 +307,56 @@ TEST(ShadowPatch, ServesEveryLargeSize)
     const ShadowPatch one = shadowPatch({ 900, 500 }, 20, 12, color);
     const ShadowPatch other = shadowPatch({ 400, 3000 }, 20, 12, color);
     EXPECT_EQ(one.image.cacheKey(), other.image.cacheKey());
-    EXPECT_EQ(one.border, other.border);
+    EXPECT_EQ(one.sideBorder, other.sideBorder);
 }
 
 TEST(ShadowPatch, OfASmallShapeFitsThatShapeAlone)
 {
     const ShadowPatch patch = shadowPatch({ 24, 10 }, 5, 4, Qt::black);
-    EXPECT_EQ(patch.border, 0);
+    EXPECT_EQ(patch.sideBorder, 0);
+    EXPECT_EQ(patch.endBorder, 0);
     EXPECT_EQ(patch.image.size(), QSize(24 + 8, 10 + 8));
     EXPECT_NE(patch.image.size(), shadowPatch({ 25, 10 }, 5, 4, Qt::black).image.size());
 }
 
-TEST(ShadowPatch, OfAShapeThatIsSmallOnOneSideOnlyIsNotStretched)
+TEST(ShadowPatch, OfAShapeThatIsShortOnOneSideIsStretchedAlongTheOther)
 {
     for (const QSize size : { QSize(900, 12), QSize(12, 900), QSize(201, 20), QSize(20, 201) }) {
         SCOPED_TRACE(size.width());
         const ShadowPatch patch = shadowPatch(size, 6, 4, Qt::black);
-        EXPECT_EQ(patch.border, 0);
-        EXPECT_EQ(patch.image.size(), size + QSize(8, 8));
+        EXPECT_EQ(patch.sideBorder > 0, size.width() > size.height());
+        EXPECT_EQ(patch.endBorder > 0, size.height() > size.width());
         const QImage whole = blurredShape(size, 6, 4);
+        const QImage shown = stretched(patch, whole.size());
         for (int y = 0; y < whole.height(); ++y) {
             for (int x = 0; x < whole.width(); ++x)
-                ASSERT_NEAR(opacity(patch.image, x, y), opacity(whole, x, y), 1) << x << ", " << y;
+                ASSERT_NEAR(opacity(shown, x, y), opacity(whole, x, y), 1) << x << ", " << y;
         }
     }
+}
+
+TEST(ShadowPatch, OfALowShapeServesEveryWidth)
+{
+    const QImage one = shadowPatch({ 1200, 75 }, 22, 8, Qt::black).image;
+    for (int width = 400; width < 1200; ++width)
+        ASSERT_EQ(shadowPatch({ width, 75 }, 22, 8, Qt::black).image.cacheKey(), one.cacheKey());
+}
+
+TEST(ShadowPatch, IsLetGoAfterManyOthers)
+{
+    const QImage first = shadowPatch({ 200, 200 }, 40, 40, Qt::black).image;
+    for (int width = 201; width < 1001; ++width)
+        std::ignore = shadowPatch({ 200, 200 }, 40, 40, QColor(width % 256, width / 256, 0));
+    EXPECT_NE(shadowPatch({ 200, 200 }, 40, 40, Qt::black).image.cacheKey(), first.cacheKey());
 }
 
 TEST(ShadowPatch, BeginsToStretchWhereOneLineIsLeftInTheMiddle)
 {
     // Corners of 10 ease over 16 pixels, and the blur of 6 reaches as far inwards.
-    EXPECT_EQ(shadowPatch({ 45, 45 }, 10, 6, Qt::black).border, 16 + 2 * 6);
-    EXPECT_EQ(shadowPatch({ 44, 45 }, 10, 6, Qt::black).border, 0);
-    EXPECT_EQ(shadowPatch({ 45, 44 }, 10, 6, Qt::black).border, 0);
+    EXPECT_EQ(shadowPatch({ 45, 45 }, 10, 6, Qt::black).sideBorder, 16 + 2 * 6);
+    EXPECT_EQ(shadowPatch({ 45, 45 }, 10, 6, Qt::black).endBorder, 16 + 2 * 6);
+    EXPECT_EQ(shadowPatch({ 44, 45 }, 10, 6, Qt::black).sideBorder, 0);
+    EXPECT_EQ(shadowPatch({ 45, 44 }, 10, 6, Qt::black).endBorder, 0);
 }
 
 TEST(ShadowPatch, IsKeptForTheNextTime)

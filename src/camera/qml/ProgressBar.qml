@@ -1,9 +1,10 @@
 import QtQuick
+import Halvorin.Kit
 import Halvorin.Camera
 
 /*! A slim bar: how many of something are done. The caller gives its width and height, and says in
     words what it shows. */
-Rectangle {
+ContinuousRectangle {
     id: root
 
     required property int done
@@ -11,13 +12,13 @@ Rectangle {
     required property hvColors c
 
     radius: height / 2
-    color: root.c.track
+    fillFrom: root.c.track
 
-    Rectangle {
+    ContinuousRectangle {
         visible: width > 0
         width: parent.width * Progress.fraction(root.done, root.total)
         height: parent.height
         radius: root.radius
-        color: root.c.glow
+        fillFrom: root.c.glow
     }
 }

@@ -37,7 +37,6 @@ FocusScope {
         anchors.bottomMargin: -12
         radius: Geometry.bodyRadius
         blur: 16
-        hollow: true
         color: Metal.bodyShadow
     }
     CameraBodyBackground {

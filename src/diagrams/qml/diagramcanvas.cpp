@@ -26,24 +26,6 @@ DiagramCanvas::DiagramCanvas(QQuickItem *parent)
     setImplicitSize(kDesign.width(), kDesign.height());
 }
 
-void DiagramCanvas::setKind(const QString &kind)
-{
-    if (assign(m_kind, kind))
-        Q_EMIT kindChanged();
-}
-
-void DiagramCanvas::setGlow(const QColor &color)
-{
-    if (assign(m_glow, color))
-        Q_EMIT glowChanged();
-}
-
-void DiagramCanvas::setLabel(const QColor &color)
-{
-    if (assign(m_label, color))
-        Q_EMIT labelChanged();
-}
-
 void DiagramCanvas::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
     PaintedItem::geometryChange(newGeometry, oldGeometry);

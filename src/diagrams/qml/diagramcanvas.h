@@ -16,27 +16,22 @@ class DiagramCanvas : public PaintedItem
     Q_OBJECT
     QML_ELEMENT
     /// The id as it stands in the gear entry.
-    Q_PROPERTY(QString kind READ kind WRITE setKind NOTIFY kindChanged)
+    Q_PROPERTY(QString kind READ kind WRITE setKind NOTIFY lookChanged)
     /// The ink of all shapes.
-    Q_PROPERTY(QColor glow READ glow WRITE setGlow NOTIFY glowChanged)
+    Q_PROPERTY(QColor glow READ glow WRITE setGlow NOTIFY lookChanged)
     /// The color of callouts and their leaders.
-    Q_PROPERTY(QColor label READ label WRITE setLabel NOTIFY labelChanged)
+    Q_PROPERTY(QColor label READ label WRITE setLabel NOTIFY lookChanged)
 public:
     explicit DiagramCanvas(QQuickItem *parent = nullptr);
 
     [[nodiscard]] QString kind() const { return m_kind; }
-    void setKind(const QString &kind);
+    void setKind(const QString &kind) { set(m_kind, kind); }
     [[nodiscard]] QColor glow() const { return m_glow; }
-    void setGlow(const QColor &color);
+    void setGlow(const QColor &color) { set(m_glow, color); }
     [[nodiscard]] QColor label() const { return m_label; }
-    void setLabel(const QColor &color);
+    void setLabel(const QColor &color) { set(m_label, color); }
 
     void paint(QPainter *painter) override;
-
-Q_SIGNALS:
-    void kindChanged();
-    void glowChanged();
-    void labelChanged();
 
 protected:
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;

@@ -14,10 +14,10 @@ T.ScrollBar {
     visible: root.size < 1 && root.policy !== T.ScrollBar.AlwaysOff
     minimumSize: 0.08
 
-    contentItem: Rectangle {
+    contentItem: ContinuousRectangle {
         implicitWidth: 6
         implicitHeight: 6
         radius: 3
-        color: Qt.alpha(root.ink, root.pressed ? 0.6 : root.hovered ? 0.45 : 0.22)
+        fillFrom: Qt.alpha(root.ink, root.pressed ? 0.6 : root.hovered ? 0.45 : 0.22)
     }
 }

@@ -1,16 +1,15 @@
 #include "continuousrectangle.h"
 
 #include "kit/gradients.h"
+#include "kit/picturecache.h"
 
-#include <QCache>
-#include <QMutex>
 #include <QPainter>
 
 #include <array>
 
 namespace {
 
-constexpr int kKeptPixels = 512 * 1024;
+constexpr qsizetype kKeptBytes = 4 * 1024 * 1024;
 
 struct Look {
     QSize pixels;
@@ -47,19 +46,13 @@ std::shared_future<QImage> ContinuousRectangle::startedPicture()
 {
     // Buttons of a rail and cards of a grid look alike, so most rectangles are there already, or
     // are being painted.
-    static QMutex mutex; // Each window may have a thread that asks.
-    static QCache<Look, std::shared_future<QImage>> pictures(kKeptPixels);
+    static PictureCache<Look, std::shared_future<QImage>> pictures(kKeptBytes);
 
     const Look look{
         .pixels = textureSize(),
         .measures = { width(), height(), m_radius, m_strokeWidth },
         .colors = { m_fillFrom, m_fillVia, m_fillTo, m_strokeFrom, m_strokeTo },
     };
-    const QMutexLocker lock(&mutex);
-    if (const std::shared_future<QImage> *known = pictures.object(look))
-        return *known;
-    const std::shared_future<QImage> started = PaintedItem::startedPicture();
-    pictures.insert(
-        look, new std::shared_future<QImage>(started), look.pixels.width() * look.pixels.height());
-    return started;
+    return pictures.picture(look, qsizetype(4) * look.pixels.width() * look.pixels.height(),
+        [this] { return PaintedItem::startedPicture(); });
 }

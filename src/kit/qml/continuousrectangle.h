@@ -37,17 +37,7 @@ public:
 protected:
     [[nodiscard]] std::shared_future<QImage> startedPicture() override;
 
-Q_SIGNALS:
-    void lookChanged();
-
 private:
-    template <typename T>
-    void set(T &field, const T &value)
-    {
-        if (assign(field, value))
-            Q_EMIT lookChanged();
-    }
-
     qreal m_radius = 0;
     qreal m_strokeWidth = 0;
     QColor m_fillFrom = Qt::transparent;

@@ -1,10 +1,15 @@
 #include "prepareditem.h"
 
-#include "kit/zoom.h"
-
 #include <QQuickWindow>
 
+#include <cmath>
 #include <utility>
+
+namespace {
+
+constexpr double kLongestSide = 1 << 24; // pixels
+
+} // namespace
 
 Preparation *Preparation::of(QQuickWindow *window)
 {
@@ -15,72 +20,122 @@ Preparation *Preparation::of(QQuickWindow *window)
 Preparation::Preparation(QQuickWindow *window)
     : QObject(window)
 {
+    // After the layout and before the scene graph looks at the items, in the main thread.
+    connect(window, &QQuickWindow::afterAnimating, this, &Preparation::place);
     connect(window, &QQuickWindow::beforeSynchronizing, this, &Preparation::prepare,
         Qt::DirectConnection);
     connect(window, &QQuickWindow::afterSynchronizing, this, &Preparation::settle,
         Qt::DirectConnection);
 }
 
-void Preparation::prepare() const
+void Preparation::place() const
 {
     for (PreparedItem *item : m_items) {
         if (item->isVisible())
+            item->place();
+    }
+}
+
+void Preparation::prepare() const
+{
+    for (PreparedItem *item : m_items) {
+        if (item->m_waits && item->isVisible())
             item->prepare();
     }
 }
 
-void Preparation::settle()
+void Preparation::settle() const
 {
-    for (PreparedItem *item : std::as_const(m_items)) {
-        item->settle();
-        item->m_waits = false;
+    for (PreparedItem *item : m_items) {
+        if (std::exchange(item->m_waits, false))
+            item->settle();
     }
-    m_items.clear();
 }
 
 PreparedItem::PreparedItem(QQuickItem *parent)
     : QQuickItem(parent)
 {
     setFlag(ItemHasContents);
-    repaint(); // Its parent may be in a window already.
+    enter(window()); // Its parent may be in a window already.
 }
 
 PreparedItem::~PreparedItem()
 {
-    withdraw();
+    leave();
 }
 
-double PreparedItem::renderScale() const
+void PreparedItem::leave()
 {
-    return CNZoom::value() * (window() ? window()->effectiveDevicePixelRatio() : 1);
+    if (m_preparation)
+        m_preparation->remove(this);
+    m_preparation = nullptr;
+}
+
+void PreparedItem::enter(QQuickWindow *window)
+{
+    leave();
+    if (window)
+        m_preparation = Preparation::of(window);
+    if (m_preparation)
+        m_preparation->add(this);
+    repaint();
+}
+
+PreparedItem::Placement PreparedItem::placement() const
+{
+    const QTransform toWindow = itemTransform(nullptr, nullptr);
+    const double ratio = window() ? window()->effectiveDevicePixelRatio() : 1;
+    Placement placement{
+        .scale = ratio * std::hypot(toWindow.m11(), toWindow.m12()),
+        .upright = toWindow.type() <= QTransform::TxScale && toWindow.m11() > 0
+            && toWindow.m11() == toWindow.m22(),
+    };
+    // To a 256th: sums of fractions come out a little different each time.
+    const auto offset = [](double at) { return std::round((std::round(at) - at) * 256) / 256; };
+    placement.offset = { offset(toWindow.dx() * ratio), offset(toWindow.dy() * ratio) };
+    return placement;
+}
+
+QSize PreparedItem::deviceSize() const
+{
+    if (size().isEmpty())
+        return {};
+    // Lengths may be beyond what an int holds.
+    return (size() * renderScale())
+        .boundedTo({ kLongestSide, kLongestSide })
+        .toSize()
+        .expandedTo({ 1, 1 });
+}
+
+QRectF PreparedItem::onDevice(const QRect &pixels) const
+{
+    const Placement place = placement();
+    const QPointF offset = place.upright ? place.offset : QPointF();
+    return { (pixels.topLeft() + offset) / place.scale, QSizeF(pixels.size()) / place.scale };
+}
+
+void PreparedItem::place()
+{
+    const Placement before = std::exchange(m_placement, placement());
+    if (before == m_placement)
+        return;
+    if (before.scale == m_placement.scale)
+        update();
+    else
+        repaint();
 }
 
 void PreparedItem::repaint()
 {
     update();
-    if (!m_preparation && window())
-        m_preparation = Preparation::of(window());
-    if (m_preparation && !m_waits) {
-        m_preparation->add(this);
-        m_waits = true;
-    }
-}
-
-void PreparedItem::withdraw()
-{
-    if (m_preparation && m_waits)
-        m_preparation->remove(this);
-    m_waits = false;
+    m_waits = true;
 }
 
 void PreparedItem::itemChange(ItemChange change, const ItemChangeData &data)
 {
     QQuickItem::itemChange(change, data);
-    if (change == ItemSceneChange) {
-        withdraw();
-        m_preparation = nullptr;
-    }
-    if (change == ItemSceneChange || change == ItemVisibleHasChanged
-        || change == ItemDevicePixelRatioHasChanged)
+    if (change == ItemSceneChange)
+        enter(data.window);
+    else if (change == ItemVisibleHasChanged)
         repaint();
 }

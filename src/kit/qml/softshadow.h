@@ -6,40 +6,26 @@
 
 #include <QColor>
 
-class QSGTexture;
-
 /// The soft shadow, or glow, of a rounded rectangle as large as this item.
 ///
-/// It spreads `blur` beyond the item on all sides and takes no clicks. Drawn as a nine-patch of a
-/// small picture that was blurred once, so it costs the same at any size and looks the same with
-/// and without a graphics processor.
+/// It spreads `blur` beyond the item on all sides and takes no clicks. Shown as a nine-patch of a
+/// small picture that was blurred once: what it costs to show grows with its area, what it costs to
+/// make doesn't. It looks the same with and without a graphics processor.
 class SoftShadow : public PreparedItem
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY lookChanged)
-    Q_PROPERTY(qreal radius READ radius WRITE setRadius NOTIFY lookChanged)
-    Q_PROPERTY(qreal blur READ blur WRITE setBlur NOTIFY lookChanged)
-    Q_PROPERTY(bool hollow READ hollow WRITE setHollow NOTIFY lookChanged)
-public:
-    explicit SoftShadow(QQuickItem *parent = nullptr);
-
-    [[nodiscard]] QColor color() const { return m_color; }
-    void setColor(const QColor &color);
+    Q_PROPERTY(QColor color MEMBER m_color WRITE setColor NOTIFY lookChanged)
     /// Corner radius of the shape that casts the shadow.
-    [[nodiscard]] qreal radius() const { return m_radius; }
-    void setRadius(qreal radius);
+    Q_PROPERTY(qreal radius MEMBER m_radius WRITE setRadius NOTIFY lookChanged)
     /// Reach of the blur, at least 0.
-    [[nodiscard]] qreal blur() const { return m_blur; }
-    void setBlur(qreal blur);
-    /// True where something opaque hides the shape but for its edge, as deep as the blur: no more
-    /// of a large shape is drawn then. A whole window's shadow takes more than a millisecond to
-    /// draw.
-    [[nodiscard]] bool hollow() const { return m_hollow; }
-    void setHollow(bool hollow);
+    Q_PROPERTY(qreal blur MEMBER m_blur WRITE setBlur NOTIFY lookChanged)
+public:
+    using PreparedItem::PreparedItem;
 
-Q_SIGNALS:
-    void lookChanged();
+    void setColor(const QColor &color) { set(m_color, color); }
+    void setRadius(qreal radius) { set(m_radius, radius); }
+    void setBlur(qreal blur) { set(m_blur, blur); }
 
 protected:
     void prepare() override;
@@ -48,14 +34,11 @@ protected:
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
 private:
-    void look();
     [[nodiscard]] bool isSeen() const;
     [[nodiscard]] std::shared_future<ShadowPatch> startedPatch() const;
-    [[nodiscard]] QSGNode *rim(const QRectF &reach, QSGTexture *texture, int border) const;
 
     std::shared_future<ShadowPatch> m_patch; ///< Until updatePaintNode() takes it.
     QColor m_color = Qt::black;
     qreal m_radius = 0;
     qreal m_blur = 0;
-    bool m_hollow = false;
 };

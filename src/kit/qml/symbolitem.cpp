@@ -31,30 +31,10 @@ SymbolItem::SymbolItem(QQuickItem *parent)
     setPointSize(12);
 }
 
-void SymbolItem::setName(const QString &name)
-{
-    if (assign(m_name, name))
-        Q_EMIT lookChanged();
-}
-
-void SymbolItem::setInk(const QColor &ink)
-{
-    if (assign(m_ink, ink))
-        Q_EMIT lookChanged();
-}
-
-void SymbolItem::setWeight(int weight)
-{
-    if (assign(m_weight, weight))
-        Q_EMIT lookChanged();
-}
-
 void SymbolItem::setPointSize(qreal size)
 {
-    if (!assign(m_pointSize, size))
-        return;
     setImplicitSize(qRound(size * kSizePerPoint), qRound(size * kSizePerPoint));
-    Q_EMIT lookChanged();
+    set(m_pointSize, size);
 }
 
 void SymbolItem::paint(QPainter *painter)

@@ -12,28 +12,21 @@ class SymbolItem : public PaintedItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(Symbol)
-    Q_PROPERTY(QString name READ name WRITE setName NOTIFY lookChanged)
-    Q_PROPERTY(QColor ink READ ink WRITE setInk NOTIFY lookChanged)
+    Q_PROPERTY(QString name MEMBER m_name WRITE setName NOTIFY lookChanged)
+    Q_PROPERTY(QColor ink MEMBER m_ink WRITE setInk NOTIFY lookChanged)
     /// A font weight, such as Font.Bold.
-    Q_PROPERTY(int weight READ weight WRITE setWeight NOTIFY lookChanged)
+    Q_PROPERTY(int weight MEMBER m_weight WRITE setWeight NOTIFY lookChanged)
     /// Size of the text that it stands beside, in points; the item is a little larger.
-    Q_PROPERTY(qreal pointSize READ pointSize WRITE setPointSize NOTIFY lookChanged)
+    Q_PROPERTY(qreal pointSize MEMBER m_pointSize WRITE setPointSize NOTIFY lookChanged)
 public:
     explicit SymbolItem(QQuickItem *parent = nullptr);
 
-    [[nodiscard]] QString name() const { return m_name; }
-    void setName(const QString &name);
-    [[nodiscard]] QColor ink() const { return m_ink; }
-    void setInk(const QColor &ink);
-    [[nodiscard]] int weight() const { return m_weight; }
-    void setWeight(int weight);
-    [[nodiscard]] qreal pointSize() const { return m_pointSize; }
+    void setName(const QString &name) { set(m_name, name); }
+    void setInk(const QColor &ink) { set(m_ink, ink); }
+    void setWeight(int weight) { set(m_weight, weight); }
     void setPointSize(qreal size);
 
     void paint(QPainter *painter) override;
-
-Q_SIGNALS:
-    void lookChanged();
 
 private:
     QString m_name;

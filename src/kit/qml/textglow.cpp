@@ -6,36 +6,6 @@
 #include <QPainter>
 #include <QTextLayout>
 
-void TextGlow::setText(const QString &text)
-{
-    if (assign(m_text, text))
-        Q_EMIT lookChanged();
-}
-
-void TextGlow::setFont(const QFont &font)
-{
-    if (assign(m_font, font))
-        Q_EMIT lookChanged();
-}
-
-void TextGlow::setColor(const QColor &color)
-{
-    if (assign(m_color, color))
-        Q_EMIT lookChanged();
-}
-
-void TextGlow::setAlignment(int alignment)
-{
-    if (assign(m_alignment, alignment))
-        Q_EMIT lookChanged();
-}
-
-void TextGlow::setBlur(qreal blur)
-{
-    if (assign(m_blur, blur))
-        Q_EMIT lookChanged();
-}
-
 std::shared_future<QImage> TextGlow::startedPicture()
 {
     // The item is the text's box with `blur` of margin, which softBlur() needs.

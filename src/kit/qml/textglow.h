@@ -11,28 +11,20 @@ class TextGlow : public PaintedItem
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QString text READ text WRITE setText NOTIFY lookChanged)
-    Q_PROPERTY(QFont font READ font WRITE setFont NOTIFY lookChanged)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY lookChanged)
+    Q_PROPERTY(QString text MEMBER m_text WRITE setText NOTIFY lookChanged)
+    Q_PROPERTY(QFont font MEMBER m_font WRITE setFont NOTIFY lookChanged)
+    Q_PROPERTY(QColor color MEMBER m_color WRITE setColor NOTIFY lookChanged)
     /// A horizontal Qt::Alignment.
-    Q_PROPERTY(int alignment READ alignment WRITE setAlignment NOTIFY lookChanged)
-    Q_PROPERTY(qreal blur READ blur WRITE setBlur NOTIFY lookChanged)
+    Q_PROPERTY(int alignment MEMBER m_alignment WRITE setAlignment NOTIFY lookChanged)
+    Q_PROPERTY(qreal blur MEMBER m_blur WRITE setBlur NOTIFY lookChanged)
 public:
     using PaintedItem::PaintedItem;
 
-    [[nodiscard]] QString text() const { return m_text; }
-    void setText(const QString &text);
-    [[nodiscard]] QFont font() const { return m_font; }
-    void setFont(const QFont &font);
-    [[nodiscard]] QColor color() const { return m_color; }
-    void setColor(const QColor &color);
-    [[nodiscard]] int alignment() const { return m_alignment; }
-    void setAlignment(int alignment);
-    [[nodiscard]] qreal blur() const { return m_blur; }
-    void setBlur(qreal blur);
-
-Q_SIGNALS:
-    void lookChanged();
+    void setText(const QString &text) { set(m_text, text); }
+    void setFont(const QFont &font) { set(m_font, font); }
+    void setColor(const QColor &color) { set(m_color, color); }
+    void setAlignment(int alignment) { set(m_alignment, alignment); }
+    void setBlur(qreal blur) { set(m_blur, blur); }
 
 protected:
     [[nodiscard]] std::shared_future<QImage> startedPicture() override;

@@ -54,14 +54,14 @@ Item {
     }
     Repeater {
         model: flow.dots
-        delegate: Rectangle {
+        delegate: ContinuousRectangle {
             required property rect modelData
             x: modelData.x
             y: modelData.y
             width: modelData.width
             height: modelData.height
             radius: width / 2
-            color: root.c.glow
+            fillFrom: root.c.glow
         }
     }
     TextEdit {

@@ -41,7 +41,7 @@ TestCase {
         return words(item).getText(0, words(item).length);
     }
     function plates(item) {
-        return Find.all(item, child => child.fillFrom !== undefined);
+        return Find.all(item, child => child.fillFrom !== undefined && child.radius === 10);
     }
     function dots(item) {
         return Find.all(item, child => child.width === 5 && child.height === 5 && child.radius === 2.5);
@@ -95,7 +95,7 @@ TestCase {
 
     function test_colors_dots_by_the_theme_and_plates_not() {
         const item = show("• one\n> careful");
-        const dotColor = () => String(dots(item)[0].color);
+        const dotColor = () => String(dots(item)[0].fillFrom);
         const plateColor = () => String(plates(item)[0].fillFrom);
         compare(dotColor(), String(CameraPalette.current.glow));
         compare(plateColor(), String(Qt.rgba(1, 0.78, 0.35, 0.08)));
