@@ -67,8 +67,8 @@ void paint(QPainter &painter, const Body &body)
     const QPainterPath metal = continuousPath(area, Geometry::bodyRadius);
     painter.fillPath(metal, verticalBrush(area, c.bodyHi(), c.body(), c.bodyLo()));
 
-    painter.fillPath(
-        continuousPath(inset(area, Geometry::leatherInset), Geometry::leatherRadius), reliefTile(c, scale));
+    painter.fillPath(continuousPath(inset(area, Geometry::leatherInset), Geometry::leatherRadius),
+        reliefTile(c, scale));
 
     paintPanel(painter, area,
         {
@@ -96,8 +96,11 @@ void paint(QPainter &painter, const Glass &look)
     QLinearGradient sheen(glass.topLeft(), glass.center());
     sheen.setColorAt(0, gray(1, 0.05));
     sheen.setColorAt(1, gray(1, 0));
-    paintPanel(
-        painter, glass, { .radius = Geometry::glassRadius, .fill = sheen, .stroke = c.glassEdge(), .strokeWidth = 1 });
+    paintPanel(painter, glass,
+        { .radius = Geometry::glassRadius,
+            .fill = sheen,
+            .stroke = c.glassEdge(),
+            .strokeWidth = 1 });
 }
 
 } // namespace

@@ -25,8 +25,8 @@ enum class Weight { Regular, Medium, Semibold, Bold, Heavy, Black };
 [[nodiscard]] QStringList names();
 [[nodiscard]] bool contains(QStringView name);
 
-/// Paints the symbol `name` in `ink` into `box`: as large as fits, centered, its aspect kept. Leaves
-/// the painter's state as it was. An unknown name or an empty box paints nothing.
+/// Paints the symbol `name` in `ink` into `box`: as large as fits, centered, its aspect kept.
+/// Leaves the painter's state as it was. An unknown name or an empty box paints nothing.
 ///
 /// Straight strokes are moved by at most one pixel of the device to where they are sharp, unless
 /// the symbol is large or the painter is rotated or sheared.

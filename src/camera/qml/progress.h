@@ -6,7 +6,8 @@
 #include <algorithm>
 
 /// How far something has got, of which `done` out of `total` are done. Both are at least 0; nothing
-/// of nothing is nothing, and more than all is possible: a finished lesson may have left the course.
+/// of nothing is nothing, and more than all is possible: a finished lesson may have left the
+/// course.
 class Progress : public QObject
 {
     Q_OBJECT
