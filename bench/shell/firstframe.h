@@ -21,6 +21,6 @@ inline int runUntilFirstFrame(QQuickWindow *window)
             std::fflush(stdout);
             QCoreApplication::quit();
         },
-        Qt::QueuedConnection);
+        Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
     return QCoreApplication::exec();
 }
