@@ -84,7 +84,8 @@ TestCase {
         AppModel.screen = HVScreen.Lens;
         for (const button of Find.buttons(rail)) {
             compare(button.Accessible.name, button.label);
-            compare(button.Accessible.checked, button.label === "Lens Lab");
+            verify(button.checkable);
+            compare(button.checked, button.label === "Lens Lab");
         }
     }
 

@@ -17,6 +17,13 @@ Pressable {
         readonly property size mark: Qt.size(20, 18)
     }
 
+    // The button itself has to be checkable: the template writes over what stands in Accessible.
+    // That it can be checked, Qt 6.4 tells only if it stands there as well.
+    checkable: true
+    autoExclusive: true
+    checked: root.selected
+    Accessible.checkable: true
+
     horizontalPadding: 12
     verticalPadding: 9
     cornerRadius: Geometry.buttonRadius

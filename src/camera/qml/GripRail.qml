@@ -38,8 +38,6 @@ Item {
                 label: title
                 tip: title
                 onClicked: AppModel.screen = screen
-                Accessible.checkable: true
-                Accessible.checked: selected
             }
         }
     }

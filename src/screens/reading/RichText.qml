@@ -13,6 +13,8 @@ Item {
     required property string text
     required property hvColors c
     property real size: 14
+    /*! What assistive technology calls the text as a whole. */
+    property string title: ""
 
     QtObject {
         id: metrics
@@ -78,9 +80,25 @@ Item {
         selectionColor: root.c.selection
         selectedTextColor: "white"
         onActiveFocusChanged: if (!activeFocus) deselect()
-        Accessible.role: Accessible.StaticText
-        Accessible.name: root.text
+        Accessible.role: Accessible.Document
+        Accessible.name: root.title
+        Accessible.readOnly: true
+        Accessible.multiLine: true
+        Accessible.selectableText: true
 
+        // The text as it is read out, piece by piece. The pieces show nothing themselves.
+        Repeater {
+            model: flow.blocks
+            delegate: Item {
+                required property var modelData
+                x: modelData.area.x
+                y: modelData.area.y
+                width: modelData.area.width
+                height: modelData.area.height
+                Accessible.role: modelData.role
+                Accessible.name: modelData.text
+            }
+        }
         HoverHandler {
             cursorShape: Qt.IBeamCursor
         }

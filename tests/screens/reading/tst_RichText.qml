@@ -200,11 +200,21 @@ TestCase {
         compare(shown(item), "One.");
     }
 
-    function test_is_read_out_as_text() {
-        const item = show("## Title\nText.");
-        compare(words(item).Accessible.role, Accessible.StaticText);
-        verify(words(item).Accessible.name.includes("Title"));
-        verify(words(item).Accessible.name.includes("Text."));
+    function test_is_read_out_block_by_block() {
+        const item = show("## Title\nSet f/2.8 and <b>wait</b>.\n• one\n> careful", { title: "A lesson" });
+        const text = words(item);
+        compare([text.Accessible.role, text.Accessible.name], [Accessible.Document, "A lesson"]);
+        const pieces = Find.all(text, child => child.Accessible.name !== "");
+        compare(pieces.map(piece => [piece.Accessible.role, piece.Accessible.name]), [
+            [Accessible.Heading, "Title"],
+            [Accessible.Paragraph, "Set f/2.8 and <b>wait</b>."],
+            [Accessible.ListItem, "one"],
+            [Accessible.Paragraph, "careful"],
+        ]);
+        for (let i = 1; i < pieces.length; ++i)
+            verify(pieces[i].y >= pieces[i - 1].y + pieces[i - 1].height);
+        compare(pieces[2].x, 13);
+        verify(pieces.every(piece => piece.x + piece.width <= 400 && !piece.activeFocusOnTab));
     }
 
     function test_follows_its_text() {

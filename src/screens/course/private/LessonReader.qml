@@ -77,6 +77,7 @@ HVScroll {
         width: parent.width
         c: root.c
         text: lesson.body
+        title: lesson.title
     }
     SectionCaption {
         c: root.c

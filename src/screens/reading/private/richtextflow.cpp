@@ -132,6 +132,28 @@ QString unbreakable(QString text)
     return text.replace(fNumber, u"f/"_s + kJoiner);
 }
 
+// Some of a document's text as the course writes it.
+QString written(QString text)
+{
+    return text.remove(kJoiner)
+        .replace(QChar::ParagraphSeparator, u'\n')
+        .replace(QChar::LineSeparator, u'\n');
+}
+
+QAccessible::Role accessibleRole(Form form)
+{
+    switch (form) {
+    case Form::Heading:
+        return QAccessible::Heading;
+    case Form::Bullet:
+        return QAccessible::ListItem;
+    case Form::Callout:
+    case Form::Paragraph:
+        break;
+    }
+    return QAccessible::Paragraph;
+}
+
 } // namespace
 
 RichTextFlow::RichTextFlow(QObject *parent)
@@ -147,9 +169,9 @@ void RichTextFlow::setDocument(QQuickTextDocument *document)
     m_document = document;
     if (document) {
         QAbstractTextDocumentLayout *layout = document->textDocument()->documentLayout();
-        connect(layout, &QAbstractTextDocumentLayout::update, this, &RichTextFlow::placeOrnaments);
+        connect(layout, &QAbstractTextDocumentLayout::update, this, &RichTextFlow::place);
         connect(layout, &QAbstractTextDocumentLayout::documentSizeChanged, this,
-            &RichTextFlow::placeOrnaments);
+            &RichTextFlow::place);
     }
     Q_EMIT documentChanged();
     fill();
@@ -211,10 +233,10 @@ void RichTextFlow::fill()
         page->setFrameFormat(pageFormat(page->frameFormat(), blocks));
         cursor.endEditBlock();
     }
-    placeOrnaments();
+    place();
 }
 
-void RichTextFlow::placeOrnaments()
+void RichTextFlow::place()
 {
     // While the text is being filled in, every step reports a new layout.
     if (m_filling || !m_document)
@@ -222,6 +244,7 @@ void RichTextFlow::placeOrnaments()
 
     QVariantList dots;
     QVariantList plates;
+    QVariantList blocks;
     const QTextDocument *document = m_document->textDocument();
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
         const QTextLayout *layout = block.layout();
@@ -229,30 +252,40 @@ void RichTextFlow::placeOrnaments()
             continue;
         // blockBoundingRect() begins at the block's margin; lines count from the layout's place.
         const double top = layout->position().y();
-        switch (Form(block.userState())) {
+        const QTextLine firstLine = layout->lineAt(0);
+        const QTextLine lastLine = layout->lineAt(layout->lineCount() - 1);
+        const double left = layout->position().x() + firstLine.x();
+        const double height = lastLine.y() + lastLine.height();
+        const auto form = Form(block.userState());
+        switch (form) {
         case Form::Bullet: {
-            const QTextLine line = layout->lineAt(0);
-            const double baseline = top + line.y() + line.ascent();
+            const double baseline = top + firstLine.y() + firstLine.ascent();
             dots.append(QRectF(0, baseline - kDotLift - kDot, kDot, kDot));
             break;
         }
-        case Form::Callout: {
-            const QTextLine lastLine = layout->lineAt(layout->lineCount() - 1);
-            const double height = lastLine.y() + lastLine.height();
+        case Form::Callout:
             plates.append(
                 QRectF(0, top - kPlatePadding, document->textWidth(), height + 2 * kPlatePadding));
             break;
-        }
         case Form::Heading:
         case Form::Paragraph:
             break;
         }
+        blocks.append(QVariant::fromValue(ReadableBlock{
+            .role = accessibleRole(form),
+            .text = written(block.text()),
+            .area = QRectF(left, top, document->textWidth() - left, height),
+        }));
     }
-    if (m_dots == dots && m_plates == plates)
-        return;
-    m_dots = dots;
-    m_plates = plates;
-    Q_EMIT ornamentsChanged();
+    if (m_dots != dots || m_plates != plates) {
+        m_dots = dots;
+        m_plates = plates;
+        Q_EMIT ornamentsChanged();
+    }
+    if (m_blocks != blocks) {
+        m_blocks = blocks;
+        Q_EMIT blocksChanged();
+    }
 }
 
 void RichTextFlow::copyPlainly(QClipboard::Mode mode)
@@ -266,9 +299,5 @@ void RichTextFlow::copyPlainly(QClipboard::Mode mode)
     const QMimeData *offered = clipboard.mimeData(mode);
     if (!offered || !offered->hasHtml())
         return;
-    QString words = edit->property("selectedText").toString();
-    words.remove(kJoiner);
-    words.replace(QChar::ParagraphSeparator, u'\n');
-    words.replace(QChar::LineSeparator, u'\n');
-    clipboard.setText(words, mode);
+    clipboard.setText(written(edit->property("selectedText").toString()), mode);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QClipboard>
+#include <QAccessible>
 #include <QColor>
 #include <QObject>
 #include <QQuickTextDocument>
@@ -11,6 +12,20 @@
 #include <QPointer>
 
 class QTextDocument;
+
+/// A heading, a point of a list or a paragraph, as assistive technology is told of it.
+struct ReadableBlock {
+    Q_GADGET
+    Q_PROPERTY(int role MEMBER role)
+    Q_PROPERTY(QString text MEMBER text)
+    Q_PROPERTY(QRectF area MEMBER area)
+public:
+    int role = QAccessible::Paragraph; ///< A QAccessible::Role.
+    QString text;                      ///< As it is written, without the mark of its form.
+    QRectF area;                       ///< Of its lines, in the TextEdit's coordinates.
+
+    friend bool operator==(const ReadableBlock &, const ReadableBlock &) = default;
+};
 
 /// Lays course mark-up out in the document of a TextEdit, as plain characters with formats, so
 /// that the whole text is one selection. Reports where the ornaments stand that a document can't
@@ -30,6 +45,8 @@ class RichTextFlow : public QObject
     /// Rectangles of the bullets' dots and of the callouts' plates, in the TextEdit's coordinates.
     Q_PROPERTY(QVariantList dots READ dots NOTIFY ornamentsChanged)
     Q_PROPERTY(QVariantList plates READ plates NOTIFY ornamentsChanged)
+    /// A ReadableBlock for each block.
+    Q_PROPERTY(QVariantList blocks READ blocks NOTIFY blocksChanged)
 public:
     explicit RichTextFlow(QObject *parent = nullptr);
 
@@ -45,6 +62,7 @@ public:
 
     [[nodiscard]] QVariantList dots() const { return m_dots; }
     [[nodiscard]] QVariantList plates() const { return m_plates; }
+    [[nodiscard]] QVariantList blocks() const { return m_blocks; }
 
 Q_SIGNALS:
     void documentChanged();
@@ -52,10 +70,11 @@ Q_SIGNALS:
     void glowChanged();
     void sizeChanged();
     void ornamentsChanged();
+    void blocksChanged();
 
 private:
     void fill();
-    void placeOrnaments();
+    void place();
     void copyPlainly(QClipboard::Mode mode);
 
     QPointer<QQuickTextDocument> m_document;
@@ -64,5 +83,6 @@ private:
     qreal m_size = 14;
     QVariantList m_dots;
     QVariantList m_plates;
+    QVariantList m_blocks;
     bool m_filling = false;
 };
