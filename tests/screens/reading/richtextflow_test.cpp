@@ -5,7 +5,7 @@
 #include "content/installedcourse.h"
 #include "kit/fonts.h"
 #include "kit/printing.h"
-#include "screens/richtextblocks.h"
+#include "screens/reading/private/richtextblocks.h"
 
 #include <QClipboard>
 #include <QFontMetricsF>
