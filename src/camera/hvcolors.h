@@ -1,4 +1,4 @@
-// The colours of the camera body, derived from a theme, and the application's own theme.
+// The colors of the camera body, derived from a theme, and the application's own theme.
 #pragma once
 
 #include "kit/themes.h"
@@ -16,8 +16,8 @@ inline const QString brassID = QStringLiteral("mf-black-brass");
 } // namespace HVThemes
 
 /// The palette that every screen and camera part is given as `c`. The body follows the theme; the
-/// display's own colours (`oled…`) don't, so that the screen looks alike under every body and only
-/// its glow follows the accent. All colours are opaque sRGB.
+/// display's own colors (`oled…`) don't, so that the screen looks alike under every body and only
+/// its glow follows the accent. All colors are opaque sRGB.
 struct HVColors {
     Q_GADGET
     Q_PROPERTY(QColor body READ body)
@@ -76,6 +76,6 @@ public:
     friend bool operator==(const HVColors &, const HVColors &) = default;
 };
 
-/// The colour of a difficulty word, in any case: green for "beginner", the glow for
+/// The color of a difficulty word, in any case: green for "beginner", the glow for
 /// "intermediate", amber for "advanced" and "professional", dim for anything else.
 [[nodiscard]] QColor levelColor(const QString &level, const HVColors &c);

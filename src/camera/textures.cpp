@@ -8,6 +8,8 @@
 #include <cmath>
 #include <utility>
 
+using namespace Painting;
+
 namespace {
 
 constexpr int kPebbleStep = 5;
@@ -65,7 +67,7 @@ QImage pebbles(double scale)
     return tile;
 }
 
-// A picture in one colour, where it has been painted.
+// A picture in one color, where it has been painted.
 QImage tinted(QImage picture, const QColor &tint)
 {
     QPainter painter(&picture);

@@ -12,7 +12,7 @@ namespace CRVNKitHost {
 /// What kit windows call the program.
 [[nodiscard]] QString appName();
 
-/// Where the kit's widgets take their colours from; by default the selected theme.
+/// Where the kit's widgets take their colors from; by default the selected theme.
 [[nodiscard]] CNKitTheme theme();
 void setTheme(std::function<CNKitTheme()> source);
 

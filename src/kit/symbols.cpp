@@ -36,23 +36,23 @@ constexpr double strokeWidth(Symbols::Weight weight)
 
 // --- The path vocabulary -----------------------------------------------------------------------
 
-QPointF polar(QPointF centre, double radius, double degrees)
+QPointF polar(QPointF center, double radius, double degrees)
 {
     const double angle = degrees * std::numbers::pi / 180;
-    return centre + QPointF(radius * std::cos(angle), -radius * std::sin(angle));
+    return center + QPointF(radius * std::cos(angle), -radius * std::sin(angle));
 }
 
-QPainterPath circle(QPointF centre, double radius)
+QPainterPath circle(QPointF center, double radius)
 {
     QPainterPath path;
-    path.addEllipse(centre, radius, radius);
+    path.addEllipse(center, radius, radius);
     return path;
 }
 
 /// Degrees count counterclockwise from three o'clock.
-QPainterPath arc(QPointF centre, double radius, double from, double sweep)
+QPainterPath arc(QPointF center, double radius, double from, double sweep)
 {
-    const QRectF box(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius);
+    const QRectF box(center.x() - radius, center.y() - radius, 2 * radius, 2 * radius);
     QPainterPath path;
     path.arcMoveTo(box, from);
     path.arcTo(box, from, sweep);
@@ -141,11 +141,11 @@ public:
     void fill(const QPainterPath &shape) { add({ Part::Kind::Fill, shape }); }
 
     /// A round full stop, a little wider than the stroke.
-    void dot(QPointF centre)
+    void dot(QPointF center)
     {
-        m_uprights.push_back(centre.x());
-        m_levels.push_back(centre.y());
-        m_parts.push_back({ Part::Kind::Dot, QPainterPath(centre) });
+        m_uprights.push_back(center.x());
+        m_levels.push_back(center.y());
+        m_parts.push_back({ Part::Kind::Dot, QPainterPath(center) });
     }
 
     /// A circle about the middle, as a line and as an area.
@@ -204,9 +204,9 @@ private:
 void arrowCounterclockwise(Ink &ink)
 {
     // Set off from the middle, to make room for the barb that stands up.
-    const QPointF centre(11.7, 12.9);
-    ink.stroke(arc(centre, 8.3, 142, -290));
-    ink.stroke(arrowhead(polar(centre, 8.3, 142), 225));
+    const QPointF center(11.7, 12.9);
+    ink.stroke(arc(center, 8.3, 142, -290));
+    ink.stroke(arrowhead(polar(center, 8.3, 142), 225));
 }
 
 void arrowRight(Ink &ink)
@@ -281,8 +281,8 @@ void cameraAperture(Ink &ink)
     // Each blade's edge is a side of the hexagon that the light comes through, run on to the ring.
     const double hole = 4.4;
     const double apothem = hole * std::numbers::sqrt3 / 2;
-    const double rim = kRing - 0.4; // the round end stays within the ring's stroke
-    const double reach = std::sqrt(rim * rim - apothem * apothem);
+    const double ends = kRing - 0.4; // the round end stays within the ring's stroke
+    const double reach = std::sqrt(ends * ends - apothem * apothem);
     for (int blade = 0; blade < 6; ++blade) {
         const double normal = 60 * blade;
         const QPointF tangent = polar(kMiddle, apothem, normal);
@@ -342,9 +342,9 @@ void circleCircle(Ink &ink)
 
 void clockArrowCirclepath(Ink &ink)
 {
-    const QPointF centre(12, 12.4);
-    ink.stroke(arc(centre, 8.8, 145, -290));
-    ink.stroke(arrowhead(polar(centre, 8.8, 145), 225, 4));
+    const QPointF center(12, 12.4);
+    ink.stroke(arc(center, 8.8, 145, -290));
+    ink.stroke(arrowhead(polar(center, 8.8, 145), 225, 4));
     ink.stroke(polyline({ { 12, 7.8 }, { 12, 12.8 }, { 15.2, 14.8 } }));
 }
 
@@ -420,15 +420,15 @@ void minus(Ink &ink)
 void moon(Ink &ink)
 {
     // The shadow's circle, of radius `shadow`, lies `away` from the moon's up and to the right.
-    const QPointF centre(11.6, 12.4);
+    const QPointF center(11.6, 12.4);
     const double disc = 9.2;
     const double shadow = 7.4;
     const double away = 6.4;
     const double cosine = (disc * disc + away * away - shadow * shadow) / (2 * disc * away);
     const double horn = std::acos(cosine) * 180 / std::numbers::pi;
     const double shadowHorn = std::acos((disc * cosine - away) / shadow) * 180 / std::numbers::pi;
-    QPainterPath path = arc(centre, disc, 45 + horn, 360 - 2 * horn);
-    path.connectPath(arc(polar(centre, away, 45), shadow, 45 - shadowHorn, 2 * shadowHorn - 360));
+    QPainterPath path = arc(center, disc, 45 + horn, 360 - 2 * horn);
+    path.connectPath(arc(polar(center, away, 45), shadow, 45 - shadowHorn, 2 * shadowHorn - 360));
     path.closeSubpath();
     ink.stroke(path);
 }
@@ -623,7 +623,7 @@ double nearest(double value, double phase, double step)
 }
 
 /// Moves coordinates of one direction so that the edges of straight strokes meet those of device
-/// pixels, which at the size of text makes the difference between a line and a grey smear. The
+/// pixels, which at the size of text makes the difference between a line and a gray smear. The
 /// strokes are placed by their distance from the middle, so a symmetrical symbol stays so; what
 /// lies between two strokes moves in proportion, so that the parts of a symbol keep together.
 class Fitting
@@ -634,7 +634,7 @@ public:
     /// onMiddle        the middle itself has to suit a stroke
     Fitting(double origin, double scale, double width, std::vector<double> strokes, bool onMiddle)
     {
-        // A line of 1, 3 … pixels is sharp about a pixel's centre, one of 2, 4 … between pixels.
+        // A line of 1, 3 … pixels is sharp about a pixel's center, one of 2, 4 … between pixels.
         const double pixels = std::max(1.0, std::round(width * std::abs(scale)));
         const double phase = std::fmod(pixels, 2) == 1 ? 0.5 : 0;
         const double middle = origin + scale * kGrid / 2;

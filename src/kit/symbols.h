@@ -1,7 +1,7 @@
 // The program's symbols: small pictures on buttons, rails and rows, drawn as vector paths.
 //
 // A symbol is known by its name, such as "camera.aperture". All are drawn on one grid of 24 × 24
-// units with one stroke, round at its ends and corners, and wear a single colour: what looks like a
+// units with one stroke, round at its ends and corners, and wear a single color: what looks like a
 // mark on a filled disc is a hole in it, so any background shows through. Each point of a symbol is
 // painted once, so a translucent ink stays even where strokes cross.
 //
@@ -25,7 +25,7 @@ enum class Weight { Regular, Medium, Semibold, Bold, Heavy, Black };
 [[nodiscard]] QStringList names();
 [[nodiscard]] bool contains(QStringView name);
 
-/// Paints the symbol `name` in `ink` into `box`: as large as fits, centred, its aspect kept. Leaves
+/// Paints the symbol `name` in `ink` into `box`: as large as fits, centered, its aspect kept. Leaves
 /// the painter's state as it was. An unknown name or an empty box paints nothing.
 ///
 /// Straight strokes are moved by at most one pixel of the device to where they are sharp, unless

@@ -1,8 +1,8 @@
-// Colour themes: six colours under a name, the one that is selected, and the arithmetic of
+// Color themes: six colors under a name, the one that is selected, and the arithmetic of
 // contrast.
 //
 // The kit knows its own six themes; an application registers more and may make one of them the
-// default. The selection is one preference, "crvn.theme", read afresh at each call. Colours are
+// default. The selection is one preference, "crvn.theme", read afresh at each call. Colors are
 // sRGB, components from 0 to 1. Main thread only.
 #pragma once
 
@@ -11,9 +11,9 @@
 #include <QObject>
 #include <QString>
 
-/// A named set of six colours. Two themes are the same theme when their ids are equal.
+/// A named set of six colors. Two themes are the same theme when their ids are equal.
 struct CRVNTheme {
-    /// An opaque sRGB colour in double precision, components from 0 to 1.
+    /// An opaque sRGB color in double precision, components from 0 to 1.
     struct RGB {
         double r = 0;
         double g = 0;
@@ -36,7 +36,7 @@ struct CRVNTheme {
         /// Source: Web Content Accessibility Guidelines 2.0, with its threshold 0.03928.
         [[nodiscard]] double luminance() const;
 
-        /// Contrast ratio of two colours, 1 to 21, in either order. Source: WCAG 2.0.
+        /// Contrast ratio of two colors, 1 to 21, in either order. Source: WCAG 2.0.
         /// The program asks for 7 under body text and 4.5 under everything else.
         [[nodiscard]] static double contrast(const RGB &a, const RGB &b);
 
@@ -99,7 +99,7 @@ void setCurrentID(const QString &id);
 
 } // namespace CRVNThemes
 
-/// The colours as the kit's own widgets see them.
+/// The colors as the kit's own widgets see them.
 struct CNKitTheme {
     Q_GADGET
     Q_PROPERTY(QColor bg MEMBER bg)

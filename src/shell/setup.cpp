@@ -49,7 +49,7 @@ void prepareCourse()
     std::ignore = ContentLibrary::shared();
 }
 
-Housing::Body firstBody(double ratio, const HVColors &colors)
+CameraBody::Body firstBody(double ratio, const HVColors &colors)
 {
     constexpr QSize kSize(1412, 892);
     return { .size = kSize,
@@ -58,7 +58,7 @@ Housing::Body firstBody(double ratio, const HVColors &colors)
         .pixels = (QSizeF(kSize) * ratio).toSize() };
 }
 
-Housing::Glass firstGlass(double ratio, const HVColors &colors)
+CameraBody::Glass firstGlass(double ratio, const HVColors &colors)
 {
     constexpr QSize kSize(1104, 764);
     return { .size = kSize, .colors = colors, .pixels = (QSizeF(kSize) * ratio).toSize() };

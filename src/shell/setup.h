@@ -2,7 +2,7 @@
 // file is opened, the course is read and, when the window stands, indexed.
 #pragma once
 
-#include "camera/housing.h"
+#include "camera/camerabody.h"
 
 #include <QFont>
 #include <QList>
@@ -21,8 +21,8 @@ void prepareCourse();
 
 /// The camera's surfaces in a window of usual size, at a zoom of 1 and `ratio` device pixels per
 /// point. They can be painted ahead; those of another window are painted when it is shown.
-[[nodiscard]] Housing::Body firstBody(double ratio, const HVColors &colors);
-[[nodiscard]] Housing::Glass firstGlass(double ratio, const HVColors &colors);
+[[nodiscard]] CameraBody::Body firstBody(double ratio, const HVColors &colors);
+[[nodiscard]] CameraBody::Glass firstGlass(double ratio, const HVColors &colors);
 
 /// The fonts that the first screen is lettered in. One that is missing here is opened when its
 /// first text is laid out.

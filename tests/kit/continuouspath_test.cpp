@@ -11,6 +11,8 @@
 #include <numbers>
 #include <vector>
 
+using namespace Painting;
+
 namespace {
 
 // A stretch of the outline between two points of the path; a line has its controls on its ends.
@@ -144,7 +146,7 @@ TEST(ContinuousPath, OfALongRectangleWithHalfItsHeightIsACapsule)
 {
     const QPainterPath path = continuousPath({ 0, 0, 200, 60 }, 30);
     for (const QPointF point : pointsAlong(path)) {
-        // Distance from the segment between the centres of the two round ends.
+        // Distance from the segment between the centers of the two round ends.
         const QPointF nearest(std::clamp(point.x(), 30.0, 170.0), 30);
         EXPECT_NEAR(length(point - nearest), 30, 0.012);
     }

@@ -144,7 +144,7 @@ TEST_F(HalvorinAppTest, KnowsTheCameraOfItsFirstScreenBeforehand)
     const QQuickItem *body = part(window().contentItem(), "CameraBodyBackground");
     const QQuickItem *glass = part(window().contentItem(), "DisplayGlass");
     ASSERT_TRUE(body && glass);
-    const Housing::Body known = HVSetup::firstBody(1, HVColors());
+    const CameraBody::Body known = HVSetup::firstBody(1, HVColors());
     EXPECT_EQ(body->size(), QSizeF(known.size));
     EXPECT_EQ(body->property("display").toRectF(), known.display);
     EXPECT_EQ(glass->size(), QSizeF(HVSetup::firstGlass(1, HVColors()).size));

@@ -6,6 +6,8 @@
 
 #include <QPainter>
 
+using namespace Painting;
+
 namespace {
 
 constexpr double kRingWidth = 12;

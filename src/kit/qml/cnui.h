@@ -1,4 +1,4 @@
-// The kit as QML sees it: its colours, its fonts, the choice of theme and of zoom.
+// The kit as QML sees it: its colors, its fonts, the choice of theme and of zoom.
 #pragma once
 
 #include "kit/themes.h"
@@ -16,7 +16,7 @@ struct CNKitThemeForQml {
     QML_VALUE_TYPE(cnKitTheme)
 };
 
-/// Colours and fonts of the kit's widgets.
+/// Colors and fonts of the kit's widgets.
 class CNUI : public QObject
 {
     Q_OBJECT

@@ -179,7 +179,7 @@ void HalvorinApp::start(int &argc, char **argv)
     // All but this thread would be idle from here on.
     if (CNZoom::value() == 1) {
         const double ratio = m_application->devicePixelRatio();
-        Housing::startAhead(
+        CameraBody::startAhead(
             HVSetup::firstBody(ratio, HVColors()), HVSetup::firstGlass(ratio, HVColors()));
     }
 
@@ -187,7 +187,7 @@ void HalvorinApp::start(int &argc, char **argv)
     if (!m_window)
         qFatal("The window could not be built: %s", qPrintable(component.errorString()));
     const auto afterFirstFrame = [this] {
-        Housing::forgetAhead();
+        CameraBody::forgetAhead();
         m_indexing = HVSetup::indexCourse();
     };
     QObject::connect(m_window.get(), &QQuickWindow::frameSwapped, m_application.get(),

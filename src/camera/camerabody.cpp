@@ -1,4 +1,4 @@
-#include "camera/housing.h"
+#include "camera/camerabody.h"
 
 #include "camera/textures.h"
 #include "kit/continuouspath.h"
@@ -11,7 +11,9 @@
 #include <optional>
 #include <utility>
 
-using namespace Housing;
+using namespace Painting;
+
+using namespace CameraBody;
 
 namespace {
 
@@ -105,17 +107,16 @@ void paint(QPainter &painter, const Glass &look)
     QLinearGradient sheen(glass.topLeft(), glass.center());
     sheen.setColorAt(0, gray(1, 0.05));
     sheen.setColorAt(1, gray(1, 0));
-    QColor rim = c.glow();
-    rim.setAlphaF(0.18f);
-    paintPanel(
-        painter, glass, { .radius = kGlassRadius, .fill = sheen, .stroke = rim, .strokeWidth = 1 });
+    QColor edge = c.glow();
+    edge.setAlphaF(0.18f);
+    paintPanel(painter, glass,
+        { .radius = kGlassRadius, .fill = sheen, .stroke = edge, .strokeWidth = 1 });
 }
 
 template <typename Look>
-std::shared_future<QImage> started(const Look &look)
+std::shared_future<QImage> asPicture(const Look &look)
 {
-    return startPicture(
-        look.pixels, look.size, [look](QPainter &painter) { paint(painter, look); });
+    return paintAsync(look.pixels, look.size, [look](QPainter &painter) { paint(painter, look); });
 }
 
 template <typename Look>
@@ -132,28 +133,28 @@ std::shared_future<QImage> taken(std::optional<Kept<Look>> &kept, const Look &lo
 {
     if (kept && kept->look == look)
         return std::exchange(kept, std::nullopt)->picture;
-    return started(look);
+    return asPicture(look);
 }
 
 } // namespace
 
-std::shared_future<QImage> Housing::startedPicture(const Body &body)
+std::shared_future<QImage> CameraBody::paintAsync(const Body &body)
 {
     return taken(keptBody, body);
 }
 
-std::shared_future<QImage> Housing::startedPicture(const Glass &glass)
+std::shared_future<QImage> CameraBody::paintAsync(const Glass &glass)
 {
     return taken(keptGlass, glass);
 }
 
-void Housing::startAhead(const Body &body, const Glass &glass)
+void CameraBody::startAhead(const Body &body, const Glass &glass)
 {
-    keptBody = { body, started(body) };
-    keptGlass = { glass, started(glass) };
+    keptBody = { body, asPicture(body) };
+    keptGlass = { glass, asPicture(glass) };
 }
 
-void Housing::forgetAhead()
+void CameraBody::forgetAhead()
 {
     keptBody.reset();
     keptGlass.reset();

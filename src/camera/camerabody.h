@@ -9,7 +9,7 @@
 
 #include <future>
 
-namespace Housing {
+namespace CameraBody {
 
 struct Body {
     QSizeF size;    ///< Points.
@@ -28,11 +28,11 @@ struct Glass {
     friend bool operator==(const Glass &, const Glass &) = default;
 };
 
-/// Starts metal, leather and a lit edge.
-[[nodiscard]] std::shared_future<QImage> startedPicture(const Body &body);
+/// Paints metal, leather and a lit edge.
+[[nodiscard]] std::shared_future<QImage> paintAsync(const Body &body);
 
-/// Starts bezel, inner glow and the sheen of the glass.
-[[nodiscard]] std::shared_future<QImage> startedPicture(const Glass &glass);
+/// Paints bezel, inner glow and the sheen of the glass.
+[[nodiscard]] std::shared_future<QImage> paintAsync(const Glass &glass);
 
 /// Starts both for the first who asks for such a body and such a glass.
 void startAhead(const Body &body, const Glass &glass);
@@ -40,4 +40,4 @@ void startAhead(const Body &body, const Glass &glass);
 /// Drops what was started ahead and nobody has asked for.
 void forgetAhead();
 
-} // namespace Housing
+} // namespace CameraBody
