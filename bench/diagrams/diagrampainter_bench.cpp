@@ -19,7 +19,7 @@ constexpr QSize kThumbnail(42, 27);
 void paint(QSize size, DiagramKind kind)
 {
     const std::shared_future<QImage> picture
-        = startPicture(size, size, [size, kind](QPainter &painter) {
+        = Painting::paintAsync(size, size, [size, kind](QPainter &painter) {
               const DiagramPainter diagram{ .ctx = painter,
                   .size = size,
                   .ink = QColor(140, 217, 255),

@@ -8,6 +8,8 @@
 #include <cmath>
 #include <utility>
 
+using namespace Painting;
+
 namespace {
 
 constexpr int kPebbleStep = 5;

@@ -149,7 +149,8 @@ void DiagramPainter::put(const QPainterPath &path, double fill, double width) co
 void DiagramPainter::box(const Box &box) const
 {
     const Fit fit(size);
-    put(continuousPath(fit.map(QRectF(box.x, box.y, box.w, box.h)), box.r * fit.s), box.fill);
+    put(Painting::continuousPath(fit.map(QRectF(box.x, box.y, box.w, box.h)), box.r * fit.s),
+        box.fill);
 }
 
 void DiagramPainter::circle(const Circle &circle) const

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <numbers>
 
+namespace Painting {
+
 namespace {
 
 // How much of a corner's length beyond its radius eases into the edge.
@@ -76,3 +78,5 @@ QPainterPath continuousPath(const QRectF &rect, double radius)
     path.closeSubpath();
     return path;
 }
+
+} // namespace Painting

@@ -5,6 +5,8 @@
 #include <QPainterPath>
 #include <QRectF>
 
+namespace Painting {
+
 /// The outline of `rect` with continuous corners of `radius`, in the units of `rect`.
 ///
 /// Each corner is an arc flanked by two cubic curves and takes up to 1.6 · radius of each side.
@@ -18,3 +20,5 @@
 {
     return rect.adjusted(by, by, -by, -by);
 }
+
+} // namespace Painting

@@ -5,6 +5,8 @@
 #include <QLinearGradient>
 #include <QPainter>
 
+namespace Painting {
+
 QBrush verticalBrush(
     const QRectF &area, const QColor &top, const QColor &middle, const QColor &bottom)
 {
@@ -34,3 +36,5 @@ QColor gray(double white, double opacity)
 {
     return QColor::fromRgbF(float(white), float(white), float(white), float(opacity));
 }
+
+} // namespace Painting

@@ -7,6 +7,8 @@
 
 class QPainter;
 
+namespace Painting {
+
 /// A brush that runs down `area` from `top` over an optional `middle` to `bottom`; an invalid
 /// `bottom` gives the flat color `top`.
 [[nodiscard]] QBrush verticalBrush(
@@ -24,3 +26,5 @@ void paintPanel(QPainter &painter, const QRectF &area, const PanelStyle &style);
 
 /// A neutral gray, 0 (black) to 1 (white).
 [[nodiscard]] QColor gray(double white, double opacity = 1);
+
+} // namespace Painting

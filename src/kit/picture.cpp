@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <atomic>
 
+namespace Painting {
+
 namespace {
 
 constexpr int kLeastBand = 128 * 1024; // pixels
@@ -15,10 +17,10 @@ int bandCount(QSize size, const QThreadPool &pool)
     return std::clamp(worthwhile, 1, std::min(pool.maxThreadCount(), size.height()));
 }
 
-class Painting
+class PictureInBands
 {
 public:
-    Painting(QSize pixels, QSizeF points, std::function<void(QPainter &)> paint)
+    PictureInBands(QSize pixels, QSizeF points, std::function<void(QPainter &)> paint)
         : m_picture(pixels, QImage::Format_ARGB32_Premultiplied)
         , m_bits(m_picture.bits())
         , m_points(points)
@@ -60,10 +62,10 @@ private:
 
 } // namespace
 
-std::shared_future<QImage> startPicture(
+std::shared_future<QImage> paintAsync(
     QSize pixels, QSizeF points, std::function<void(QPainter &)> paint)
 {
-    const auto painting = std::make_shared<Painting>(pixels, points, std::move(paint));
+    const auto painting = std::make_shared<PictureInBands>(pixels, points, std::move(paint));
     std::shared_future<QImage> picture = painting->future();
     if (painting->isNull()) {
         painting->finish();
@@ -81,3 +83,5 @@ std::shared_future<QImage> startPicture(
     }
     return picture;
 }
+
+} // namespace Painting

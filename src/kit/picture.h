@@ -1,4 +1,4 @@
-// Pictures painted with every core, and around a habit of Qt's.
+// Pictures painted on the threads of the global pool, which is for nothing else.
 #pragma once
 
 #include <QImage>
@@ -13,7 +13,9 @@
 
 class QPainter;
 
-/// Starts to paint a picture of so many pixels, transparent but for what `paint` paints; edges are
+namespace Painting {
+
+/// Paints a picture of so many pixels, transparent but for what `paint` paints; edges are
 /// smoothed. The painter counts in points, of which the picture shows `points`; none may be 0 where
 /// there are pixels. A large picture is painted in bands on several threads: `paint` is called for
 /// each, on a painter that takes in no more than its band. All calls are over when the picture is
@@ -25,16 +27,18 @@ class QPainter;
 /// that pool the rasterizer fills by itself, so `paint` is called there. Nothing but pictures may
 /// run in the global pool: these would wait behind it. A thread of the pool opens fonts of its own;
 /// what is mostly text is better painted without this.
-[[nodiscard]] std::shared_future<QImage> startPicture(
+[[nodiscard]] std::shared_future<QImage> paintAsync(
     QSize pixels, QSizeF points, std::function<void(QPainter &)> paint);
 
-/// Starts `make`, which makes a picture by other means, where pictures are painted. It must not
-/// wait for another of them.
+/// Calls `make` where pictures are painted, for one that is made by other means than a painter, and
+/// answers with the future of what it returns. It must not wait for another of them.
 template <typename Make>
-[[nodiscard]] auto startBesidePictures(Make make)
+[[nodiscard]] auto runAsync(Make make)
 {
     using Task = std::packaged_task<std::invoke_result_t<Make>()>;
     const auto task = std::make_shared<Task>(std::move(make));
     QThreadPool::globalInstance()->start([task] { (*task)(); });
     return task->get_future().share();
 }
+
+} // namespace Painting

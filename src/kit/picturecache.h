@@ -4,6 +4,8 @@
 #include <QCache>
 #include <QMutex>
 
+namespace Painting {
+
 /// Keeps what was asked for lately, by what it shows. All together takes no more than `limit` bytes
 /// of pixels: what nobody has asked for longest goes first, and what alone takes more isn't kept.
 /// Whoever was given a picture holds it for as long as he likes. Safe on any thread.
@@ -47,3 +49,5 @@ private:
     mutable QMutex m_mutex;
     QCache<Key, Picture> m_kept;
 };
+
+} // namespace Painting

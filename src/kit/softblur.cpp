@@ -10,6 +10,8 @@
 #include <cmath>
 #include <vector>
 
+namespace Painting {
+
 namespace {
 
 // A dozen of the largest shadows on the finest screens.
@@ -133,7 +135,7 @@ QImage softBlur(const QImage &mask, double radius, const QColor &color)
     return result;
 }
 
-std::shared_future<ShadowPatch> startShadowPatch(
+std::shared_future<ShadowPatch> shadowPatchAsync(
     QSize size, int cornerRadius, int blurRadius, const QColor &color)
 {
     static PictureCache<PatchKey, std::shared_future<ShadowPatch>> patches(kKeptBytes);
@@ -150,9 +152,11 @@ std::shared_future<ShadowPatch> startShadowPatch(
     const PatchKey key{ shape, cornerRadius, blurRadius, color.rgba() };
     const QSize pixels = shape.grownBy({ blurRadius, blurRadius, blurRadius, blurRadius });
     return patches.picture(key, qsizetype(4) * pixels.width() * pixels.height(), [=] {
-        return startBesidePictures([=] {
+        return runAsync([=] {
             const QImage mask = roundedMask(shape, cornerRadius, blurRadius);
             return ShadowPatch{ softBlur(mask, blurRadius, color), sideBorder, endBorder };
         });
     });
 }
+
+} // namespace Painting

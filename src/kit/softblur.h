@@ -6,6 +6,8 @@
 
 #include <future>
 
+namespace Painting {
+
 /// Blurs the opacity of a picture and fills it with one color.
 ///
 /// mask     any format; only its alpha channel counts. Leave `radius` pixels of empty margin on
@@ -25,9 +27,11 @@ struct ShadowPatch {
     int endBorder = 0;
 };
 
-/// Starts the shadow of a rounded rectangle of `size`, corners of `cornerRadius`, blurred by
+/// Makes the shadow of a rounded rectangle of `size`, corners of `cornerRadius`, blurred by
 /// `blurRadius`; all in device pixels. The picture holds `blurRadius` of margin on all sides. It is
 /// meant to be stretched as a nine-patch along each side that is long enough, so one picture serves
 /// all lengths. Pictures are kept, within a bound: asking again soon costs nothing.
-[[nodiscard]] std::shared_future<ShadowPatch> startShadowPatch(
+[[nodiscard]] std::shared_future<ShadowPatch> shadowPatchAsync(
     QSize size, int cornerRadius, int blurRadius, const QColor &color);
+
+} // namespace Painting

@@ -281,8 +281,8 @@ void cameraAperture(Ink &ink)
     // Each blade's edge is a side of the hexagon that the light comes through, run on to the ring.
     const double hole = 4.4;
     const double apothem = hole * std::numbers::sqrt3 / 2;
-    const double rim = kRing - 0.4; // the round end stays within the ring's stroke
-    const double reach = std::sqrt(rim * rim - apothem * apothem);
+    const double ends = kRing - 0.4; // the round end stays within the ring's stroke
+    const double reach = std::sqrt(ends * ends - apothem * apothem);
     for (int blade = 0; blade < 6; ++blade) {
         const double normal = 60 * blade;
         const QPointF tangent = polar(kMiddle, apothem, normal);

@@ -3,7 +3,7 @@
 #include "content/contentkind.h"
 #include "content/contentlibrary.h"
 #include "kit/preferences.h"
-#include "kit/stillness.h"
+#include "kit/snapshotmode.h"
 #include "kit/themes.h"
 #include "selfcheck/offscreen.h"
 #include "selfcheck/scenecamera.h"
@@ -151,7 +151,7 @@ std::optional<int> HVSnapshot::handle(const QStringList &arguments)
 
     const OffscreenApplication application;
     Preferences::shared().keepInMemory();
-    Stillness::keep();
+    SnapshotMode::enable();
     HVSetup::configure();
 
     try {

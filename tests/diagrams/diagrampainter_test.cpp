@@ -263,15 +263,19 @@ TEST(DiagramPainter, LeavesThePainterAsItWas)
 
 TEST(Box, HasContinuousCornersThatScale)
 {
-    expectSamePath(outlines(kDesign, kOrdinaryBox).at(0), continuousPath({ 40, 30, 120, 80 }, 12));
-    expectSamePath(outlines(kWide, kOrdinaryBox).at(0), continuousPath({ 240, 30, 120, 80 }, 12));
-    expectSamePath(outlines(kHalf, kOrdinaryBox).at(0), continuousPath({ 20, 15, 60, 40 }, 6));
+    expectSamePath(
+        outlines(kDesign, kOrdinaryBox).at(0), Painting::continuousPath({ 40, 30, 120, 80 }, 12));
+    expectSamePath(
+        outlines(kWide, kOrdinaryBox).at(0), Painting::continuousPath({ 240, 30, 120, 80 }, 12));
+    expectSamePath(
+        outlines(kHalf, kOrdinaryBox).at(0), Painting::continuousPath({ 20, 15, 60, 40 }, 6));
 }
 
 TEST(Box, HasCornersOfSixAndAFillOfATenthUnlessToldOtherwise)
 {
     const Shape plain = Box{ 40, 30, 120, 80 };
-    expectSamePath(outlines(kDesign, plain).at(0), continuousPath({ 40, 30, 120, 80 }, 6));
+    expectSamePath(
+        outlines(kDesign, plain).at(0), Painting::continuousPath({ 40, 30, 120, 80 }, 6));
     expectFills(plain, { 0.1 });
 }
 
@@ -378,9 +382,9 @@ TEST(LensBarrel, HasARingAtEachEvenDivision)
     const Shape lens = LensBarrel{ 90, 130, 200, 50, 2 };
     const std::vector<QPainterPath> parts = outlines(kDesign, lens);
     ASSERT_EQ(parts.size(), 4u);
-    expectSamePath(parts[0], continuousPath({ 90, 80, 200, 100 }, 4));
-    expectSamePath(parts[1], continuousPath({ 90 + 200 / 3.0 - 8, 77, 16, 106 }, 3));
-    expectSamePath(parts[2], continuousPath({ 90 + 400 / 3.0 - 8, 77, 16, 106 }, 3));
+    expectSamePath(parts[0], Painting::continuousPath({ 90, 80, 200, 100 }, 4));
+    expectSamePath(parts[1], Painting::continuousPath({ 90 + 200 / 3.0 - 8, 77, 16, 106 }, 3));
+    expectSamePath(parts[2], Painting::continuousPath({ 90 + 400 / 3.0 - 8, 77, 16, 106 }, 3));
     expectArea(parts[3].boundingRect(), { 284, 82, 12, 96 });
     expectFills(lens, { 0.1, 0.18, 0.18, 0.25 });
 }
@@ -403,8 +407,8 @@ TEST(LensBarrel, ScalesWithItsCorners)
 {
     const std::vector<QPainterPath> parts = outlines(kHalf, LensBarrel{ 120, 130, 150, 50, 1 });
     ASSERT_EQ(parts.size(), 3u);
-    expectSamePath(parts[0], continuousPath({ 60, 40, 75, 50 }, 2));
-    expectSamePath(parts[1], continuousPath({ 93.5, 38.5, 8, 53 }, 1.5));
+    expectSamePath(parts[0], Painting::continuousPath({ 60, 40, 75, 50 }, 2));
+    expectSamePath(parts[1], Painting::continuousPath({ 93.5, 38.5, 8, 53 }, 1.5));
 }
 
 TEST(LensBarrelDeathTest, CanNotHaveLessThanNoRings)
@@ -419,8 +423,8 @@ TEST(CameraBody, HasHumpBodyGripAndDialInThisOrder)
     ASSERT_EQ(parts.size(), 4u);
     expectPoints(
         parts[0], { { 174.8, 90 }, { 185.6, 64 }, { 221.6, 64 }, { 232.4, 90 }, { 174.8, 90 } });
-    expectSamePath(parts[1], continuousPath({ 110, 90, 180, 110 }, 14));
-    expectSamePath(parts[2], continuousPath({ 106, 98, 39.6, 94 }, 12));
+    expectSamePath(parts[1], Painting::continuousPath({ 110, 90, 180, 110 }, 14));
+    expectSamePath(parts[2], Painting::continuousPath({ 106, 98, 39.6, 94 }, 12));
     expectArea(parts[3].boundingRect(), { 246, 78, 16, 16 });
     expectFills(camera, { 0.12, 0.1, 0.2, 0.2 });
 }

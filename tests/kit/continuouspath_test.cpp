@@ -11,6 +11,8 @@
 #include <numbers>
 #include <vector>
 
+using namespace Painting;
+
 namespace {
 
 // A stretch of the outline between two points of the path; a line has its controls on its ends.

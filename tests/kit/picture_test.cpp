@@ -11,11 +11,13 @@
 #include <chrono>
 #include <future>
 
+using namespace Painting;
+
 namespace {
 
 QImage painted(QSize pixels, QSize points, const std::function<void(QPainter &)> &paint)
 {
-    return startPicture(pixels, points, paint).get();
+    return paintAsync(pixels, points, paint).get();
 }
 
 void paintTarget(QPainter &painter)
@@ -67,7 +69,7 @@ TEST(StartedPicture, IsReadyLaterThanItIsAskedFor)
 {
     std::promise<void> mayPaint;
     const std::shared_future<QImage> picture
-        = startPicture({ 50, 50 }, { 50, 50 }, [&mayPaint](QPainter &painter) {
+        = paintAsync({ 50, 50 }, { 50, 50 }, [&mayPaint](QPainter &painter) {
               mayPaint.get_future().wait();
               paintTarget(painter);
           });
@@ -78,8 +80,8 @@ TEST(StartedPicture, IsReadyLaterThanItIsAskedFor)
 
 TEST(StartedPicture, StandsBesideWhatIsMadeByOtherMeans)
 {
-    const std::shared_future<int> answer = startBesidePictures([] { return 42; });
-    const std::shared_future<QImage> picture = startPicture({ 50, 50 }, { 50, 50 }, paintTarget);
+    const std::shared_future<int> answer = runAsync([] { return 42; });
+    const std::shared_future<QImage> picture = paintAsync({ 50, 50 }, { 50, 50 }, paintTarget);
     EXPECT_EQ(answer.get(), 42);
     EXPECT_FALSE(picture.get().isNull());
 }

@@ -9,6 +9,8 @@
 #include <thread>
 #include <vector>
 
+using namespace Painting;
+
 namespace {
 
 constexpr qsizetype kLimit = 1024 * 1024;

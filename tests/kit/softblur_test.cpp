@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Painting;
+
 namespace {
 
 // Six passes, three along each axis, each round by up to half a level.
@@ -17,7 +19,7 @@ constexpr int kRoundingLevels = 3;
 
 ShadowPatch shadowPatch(QSize size, int cornerRadius, int blurRadius, const QColor &color)
 {
-    return startShadowPatch(size, cornerRadius, blurRadius, color).get();
+    return shadowPatchAsync(size, cornerRadius, blurRadius, color).get();
 }
 
 QImage blank(QSize size)

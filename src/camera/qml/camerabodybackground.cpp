@@ -1,9 +1,9 @@
 #include "camerabodybackground.h"
 
-#include "camera/housing.h"
+#include "camera/camerabody.h"
 
-std::shared_future<QImage> CameraBodyBackground::startedPicture()
+std::shared_future<QImage> CameraBodyBackground::paintAsync()
 {
-    return Housing::startedPicture(Housing::Body{
+    return CameraBody::paintAsync(CameraBody::Body{
         .size = size(), .display = m_display, .colors = c(), .pixels = textureSize() });
 }

@@ -15,7 +15,7 @@ public:
     void setDisplay(const QRectF &display) { set(m_display, display); }
 
 protected:
-    [[nodiscard]] std::shared_future<QImage> startedPicture() override;
+    [[nodiscard]] std::shared_future<QImage> paintAsync() override;
 
 private:
     QRectF m_display;

@@ -7,6 +7,8 @@
 #include <QConicalGradient>
 #include <QPainter>
 
+using namespace Painting;
+
 namespace {
 
 // The light on turned metal: two bright fans, opposite each other.

@@ -1,9 +1,9 @@
 #include "displayglass.h"
 
-#include "camera/housing.h"
+#include "camera/camerabody.h"
 
-std::shared_future<QImage> DisplayGlass::startedPicture()
+std::shared_future<QImage> DisplayGlass::paintAsync()
 {
-    return Housing::startedPicture(
-        Housing::Glass{ .size = size(), .colors = c(), .pixels = textureSize() });
+    return CameraBody::paintAsync(
+        CameraBody::Glass{ .size = size(), .colors = c(), .pixels = textureSize() });
 }

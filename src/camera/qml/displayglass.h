@@ -12,5 +12,5 @@ public:
     using CameraSurface::CameraSurface;
 
 protected:
-    [[nodiscard]] std::shared_future<QImage> startedPicture() override;
+    [[nodiscard]] std::shared_future<QImage> paintAsync() override;
 };

@@ -7,6 +7,8 @@
 
 #include <QPainter>
 
+using namespace Painting;
+
 void ProgressArc::paint(QPainter *painter)
 {
     // Room for the glow around the stroke.

@@ -5,7 +5,7 @@
 #include "kit/kit.h"
 #include "kit/platformwords.h"
 #include "kit/preferences.h"
-#include "kit/stillness.h"
+#include "kit/snapshotmode.h"
 #include "kit/zoom.h"
 
 #include <QKeySequence>
@@ -32,7 +32,7 @@ QString CNUI::appName() const
 
 bool CNUI::animated() const
 {
-    return !Stillness::isKept();
+    return !SnapshotMode::isEnabled();
 }
 
 QFont CNUI::cnFont(qreal size, int weight, qreal tracking) const
@@ -68,7 +68,7 @@ QString CNUI::withLiteralMarks(const QString &words) const
 
 QColor CNUI::gray(qreal white, qreal opacity) const
 {
-    return ::gray(white, opacity);
+    return Painting::gray(white, opacity);
 }
 
 ThemeList::ThemeList(QObject *parent)

@@ -7,6 +7,8 @@
 
 #include <array>
 
+using namespace Painting;
+
 namespace {
 
 constexpr qsizetype kKeptBytes = 4 * 1024 * 1024;
@@ -42,7 +44,7 @@ void ContinuousRectangle::paint(QPainter *painter)
         });
 }
 
-std::shared_future<QImage> ContinuousRectangle::startedPicture()
+std::shared_future<QImage> ContinuousRectangle::paintAsync()
 {
     // Buttons of a rail and cards of a grid look alike, so most rectangles are there already, or
     // are being painted.
@@ -54,5 +56,5 @@ std::shared_future<QImage> ContinuousRectangle::startedPicture()
         .colors = { m_fillFrom, m_fillVia, m_fillTo, m_strokeFrom, m_strokeTo },
     };
     return pictures.picture(look, qsizetype(4) * look.pixels.width() * look.pixels.height(),
-        [this] { return PaintedItem::startedPicture(); });
+        [this] { return PaintedItem::paintAsync(); });
 }

@@ -35,7 +35,7 @@ public:
     void paint(QPainter *painter) override;
 
 protected:
-    [[nodiscard]] std::shared_future<QImage> startedPicture() override;
+    [[nodiscard]] std::shared_future<QImage> paintAsync() override;
 
 private:
     qreal m_radius = 0;

@@ -31,15 +31,16 @@ void PaintedItem::geometryChange(const QRectF &newGeometry, const QRectF &oldGeo
 
 void PaintedItem::paint(QPainter *) { }
 
-std::shared_future<QImage> PaintedItem::startedPicture()
+std::shared_future<QImage> PaintedItem::paintAsync()
 {
-    return startPicture(textureSize(), size(), [this](QPainter &painter) { paint(&painter); });
+    return Painting::paintAsync(
+        textureSize(), size(), [this](QPainter &painter) { paint(&painter); });
 }
 
 void PaintedItem::prepare()
 {
     if (!size().isEmpty())
-        m_picture = startedPicture();
+        m_picture = paintAsync();
 }
 
 void PaintedItem::settle()
@@ -59,7 +60,7 @@ QSGNode *PaintedItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
         node = window()->createImageNode();
         node->setOwnsTexture(true);
         if (!m_picture.valid())
-            m_picture = startedPicture();
+            m_picture = paintAsync();
     }
     if (m_picture.valid()) { // or else the item has only been moved
         const QImage image = std::exchange(m_picture, {}).get();

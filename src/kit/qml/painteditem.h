@@ -25,7 +25,7 @@ public:
 
     [[nodiscard]] QSize textureSize() const;
 
-    /// Paints the item as startPicture() asks for it: edges are smoothed; while the main thread
+    /// Paints the item as paintAsync() asks for it: edges are smoothed; while the main thread
     /// waits, several others may be here at once.
     virtual void paint(QPainter *painter);
 
@@ -41,7 +41,7 @@ protected:
 
     /// Starts to paint the item by paint(). Subclasses answer otherwise if they know the picture
     /// already or make it as a whole.
-    [[nodiscard]] virtual std::shared_future<QImage> startedPicture();
+    [[nodiscard]] virtual std::shared_future<QImage> paintAsync();
 
 private:
     std::shared_future<QImage> m_picture; ///< Until updatePaintNode() takes it.

@@ -11,24 +11,24 @@ constexpr double kLongestSide = 1 << 24; // pixels
 
 } // namespace
 
-Preparation *Preparation::of(QQuickWindow *window)
+FramePreparation *FramePreparation::of(QQuickWindow *window)
 {
-    auto *known = window->findChild<Preparation *>(QString(), Qt::FindDirectChildrenOnly);
-    return known ? known : new Preparation(window);
+    auto *known = window->findChild<FramePreparation *>(QString(), Qt::FindDirectChildrenOnly);
+    return known ? known : new FramePreparation(window);
 }
 
-Preparation::Preparation(QQuickWindow *window)
+FramePreparation::FramePreparation(QQuickWindow *window)
     : QObject(window)
 {
     // After the layout and before the scene graph looks at the items, in the main thread.
-    connect(window, &QQuickWindow::afterAnimating, this, &Preparation::place);
-    connect(window, &QQuickWindow::beforeSynchronizing, this, &Preparation::prepare,
+    connect(window, &QQuickWindow::afterAnimating, this, &FramePreparation::place);
+    connect(window, &QQuickWindow::beforeSynchronizing, this, &FramePreparation::prepare,
         Qt::DirectConnection);
-    connect(window, &QQuickWindow::afterSynchronizing, this, &Preparation::settle,
+    connect(window, &QQuickWindow::afterSynchronizing, this, &FramePreparation::settle,
         Qt::DirectConnection);
 }
 
-void Preparation::place() const
+void FramePreparation::place() const
 {
     for (PreparedItem *item : m_items) {
         if (item->isVisible())
@@ -36,7 +36,7 @@ void Preparation::place() const
     }
 }
 
-void Preparation::prepare() const
+void FramePreparation::prepare() const
 {
     for (PreparedItem *item : m_items) {
         if (item->m_waits && item->isVisible())
@@ -44,7 +44,7 @@ void Preparation::prepare() const
     }
 }
 
-void Preparation::settle() const
+void FramePreparation::settle() const
 {
     for (PreparedItem *item : m_items) {
         if (std::exchange(item->m_waits, false))
@@ -75,7 +75,7 @@ void PreparedItem::enter(QQuickWindow *window)
 {
     leave();
     if (window)
-        m_preparation = Preparation::of(window);
+        m_preparation = FramePreparation::of(window);
     if (m_preparation)
         m_preparation->add(this);
     repaint();

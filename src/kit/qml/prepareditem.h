@@ -12,18 +12,18 @@ class PreparedItem;
 /// Has the items of a window prepare what they show, all at once, when the scene graph is about to
 /// take them in one after the other. Before that it tells them where they stand by now: no signal
 /// of Qt's comes when an ancestor is moved or magnified.
-class Preparation : public QObject
+class FramePreparation : public QObject
 {
     Q_OBJECT
 public:
     /// That of `window`, which owns it.
-    [[nodiscard]] static Preparation *of(QQuickWindow *window);
+    [[nodiscard]] static FramePreparation *of(QQuickWindow *window);
 
     void add(PreparedItem *item) { m_items.append(item); }
     void remove(PreparedItem *item) { m_items.removeOne(item); }
 
 private:
-    explicit Preparation(QQuickWindow *window);
+    explicit FramePreparation(QQuickWindow *window);
 
     void place() const;
     // The main thread waits during both, whichever thread they run in.
@@ -89,7 +89,7 @@ protected:
     void itemChange(ItemChange change, const ItemChangeData &data) override;
 
 private:
-    friend class Preparation;
+    friend class FramePreparation;
 
     /// Where the item is shown.
     struct Placement {
@@ -105,7 +105,7 @@ private:
     void enter(QQuickWindow *window);
     void leave();
 
-    QPointer<Preparation> m_preparation;
+    QPointer<FramePreparation> m_preparation;
     Placement m_placement; ///< As of the last frame.
     bool m_waits = false;  ///< To be prepared for the next frame.
 };

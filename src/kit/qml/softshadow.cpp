@@ -20,7 +20,7 @@ public:
         appendChildNode(m_patch);
     }
 
-    void setPatch(QSGTexture *texture, const ShadowPatch &patch, const QRect &bounds)
+    void setPatch(QSGTexture *texture, const Painting::ShadowPatch &patch, const QRect &bounds)
     {
         m_patch->setTexture(texture); // owned by the node
         m_patch->setBounds(bounds);
@@ -56,18 +56,19 @@ bool SoftShadow::isSeen() const
     return isVisible() && !size().isEmpty() && m_color.alpha() != 0;
 }
 
-std::shared_future<ShadowPatch> SoftShadow::startedPatch() const
+std::shared_future<Painting::ShadowPatch> SoftShadow::blurAsync() const
 {
     // Blurred in the pixels of the screen, so that a magnified shadow stays smooth.
     const double scale = renderScale();
     const double radius = qMin(m_radius, qMin(width(), height()) / 2);
-    return startShadowPatch(deviceSize(), qRound(radius * scale), qRound(m_blur * scale), m_color);
+    return Painting::shadowPatchAsync(
+        deviceSize(), qRound(radius * scale), qRound(m_blur * scale), m_color);
 }
 
 void SoftShadow::prepare()
 {
     if (isSeen())
-        m_patch = startedPatch();
+        m_patch = blurAsync();
 }
 
 void SoftShadow::settle()
@@ -86,10 +87,10 @@ QSGNode *SoftShadow::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
     if (!node) {
         node = new ShadowNode(window());
         if (!m_patch.valid())
-            m_patch = startedPatch();
+            m_patch = blurAsync();
     }
     if (m_patch.valid()) { // or else the item has only been moved
-        const ShadowPatch patch = std::exchange(m_patch, {}).get();
+        const Painting::ShadowPatch patch = std::exchange(m_patch, {}).get();
         QSGTexture *texture = window()->createTextureFromImage(patch.image);
         texture->setFiltering(isUpright() ? QSGTexture::Nearest : QSGTexture::Linear);
         const int reach = qRound(m_blur * renderScale());

@@ -35,9 +35,9 @@ protected:
 
 private:
     [[nodiscard]] bool isSeen() const;
-    [[nodiscard]] std::shared_future<ShadowPatch> startedPatch() const;
+    [[nodiscard]] std::shared_future<Painting::ShadowPatch> blurAsync() const;
 
-    std::shared_future<ShadowPatch> m_patch; ///< Until updatePaintNode() takes it.
+    std::shared_future<Painting::ShadowPatch> m_patch; ///< Until updatePaintNode() takes it.
     QColor m_color = Qt::black;
     qreal m_radius = 0;
     qreal m_blur = 0;

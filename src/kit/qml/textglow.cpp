@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <QTextLayout>
 
-std::shared_future<QImage> TextGlow::startedPicture()
+std::shared_future<QImage> TextGlow::paintAsync()
 {
     // The item is the text's box with `blur` of margin, which softBlur() needs.
     QImage mask(textureSize(), QImage::Format_ARGB32_Premultiplied);
@@ -32,6 +32,7 @@ std::shared_future<QImage> TextGlow::startedPicture()
         ink.setPen(Qt::black);
         layout.draw(&ink, { m_blur, m_blur });
     }
-    return startBesidePictures(
-        [mask, radius = m_blur * scale, color = m_color] { return softBlur(mask, radius, color); });
+    return Painting::runAsync([mask, radius = m_blur * scale, color = m_color] {
+        return Painting::softBlur(mask, radius, color);
+    });
 }

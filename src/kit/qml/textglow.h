@@ -27,7 +27,7 @@ public:
     void setBlur(qreal blur) { set(m_blur, blur); }
 
 protected:
-    [[nodiscard]] std::shared_future<QImage> startedPicture() override;
+    [[nodiscard]] std::shared_future<QImage> paintAsync() override;
 
 private:
     QString m_text;

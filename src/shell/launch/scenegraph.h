@@ -8,9 +8,9 @@
 namespace SceneGraph {
 
 /// Arranges that GL contexts share what they hold, unless it is plain by now that nobody will draw
-/// with GL. The video player's engine can't do without, whatever draws the window; where this hasn't
-/// arranged it, the player does (QtWebEngineQuick::initialize) before its first view. Call before
-/// the application object.
+/// with GL. The video player's engine can't do without, whatever draws the window; where this
+/// hasn't arranged it, the player does (QtWebEngineQuick::initialize) before its first view. Call
+/// before the application object.
 void prepare();
 
 /// Chooses the renderer. Call before the first window, with a QGuiApplication.

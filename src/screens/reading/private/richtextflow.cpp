@@ -170,8 +170,8 @@ void RichTextFlow::setDocument(QQuickTextDocument *document)
     if (document) {
         QAbstractTextDocumentLayout *layout = document->textDocument()->documentLayout();
         connect(layout, &QAbstractTextDocumentLayout::update, this, &RichTextFlow::place);
-        connect(layout, &QAbstractTextDocumentLayout::documentSizeChanged, this,
-            &RichTextFlow::place);
+        connect(
+            layout, &QAbstractTextDocumentLayout::documentSizeChanged, this, &RichTextFlow::place);
     }
     Q_EMIT documentChanged();
     fill();

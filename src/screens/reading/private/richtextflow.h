@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QClipboard>
 #include <QAccessible>
+#include <QClipboard>
 #include <QColor>
 #include <QObject>
 #include <QQuickTextDocument>

@@ -9,7 +9,7 @@
 
 #include <future>
 
-namespace Housing {
+namespace CameraBody {
 
 struct Body {
     QSizeF size;    ///< Points.
@@ -24,10 +24,10 @@ struct Glass {
     QSize pixels;
 };
 
-/// Starts metal, leather and a lit edge.
-[[nodiscard]] std::shared_future<QImage> startedPicture(const Body &body);
+/// Paints metal, leather and a lit edge.
+[[nodiscard]] std::shared_future<QImage> paintAsync(const Body &body);
 
-/// Starts bezel, inner glow and the sheen of the glass.
-[[nodiscard]] std::shared_future<QImage> startedPicture(const Glass &glass);
+/// Paints bezel, inner glow and the sheen of the glass.
+[[nodiscard]] std::shared_future<QImage> paintAsync(const Glass &glass);
 
-} // namespace Housing
+} // namespace CameraBody

@@ -1,4 +1,4 @@
-#include "camera/housing.h"
+#include "camera/camerabody.h"
 
 #include "camera/geometry.h"
 #include "camera/textures.h"
@@ -9,7 +9,8 @@
 #include <QLinearGradient>
 #include <QPainter>
 
-using namespace Housing;
+using namespace Painting;
+using namespace CameraBody;
 
 namespace {
 
@@ -105,14 +106,14 @@ void paint(QPainter &painter, const Glass &look)
 
 } // namespace
 
-std::shared_future<QImage> Housing::startedPicture(const Body &body)
+std::shared_future<QImage> CameraBody::paintAsync(const Body &body)
 {
-    return startPicture(
+    return Painting::paintAsync(
         body.pixels, body.size, [body](QPainter &painter) { paint(painter, body); });
 }
 
-std::shared_future<QImage> Housing::startedPicture(const Glass &glass)
+std::shared_future<QImage> CameraBody::paintAsync(const Glass &glass)
 {
-    return startPicture(
+    return Painting::paintAsync(
         glass.pixels, glass.size, [glass](QPainter &painter) { paint(painter, glass); });
 }

@@ -1,6 +1,6 @@
 // What the camera's body looks like.
 
-#include "camera/housing.h"
+#include "camera/camerabody.h"
 #include "kit/gradients.h"
 
 #include <QPainter>
@@ -18,8 +18,8 @@ QList<CRVNTheme> themes()
 
 QImage body(const HVColors &colors)
 {
-    return Housing::startedPicture(
-        Housing::Body{ .size = kSize, .display = {}, .colors = colors, .pixels = kSize })
+    return CameraBody::paintAsync(
+        CameraBody::Body{ .size = kSize, .display = {}, .colors = colors, .pixels = kSize })
         .get();
 }
 
@@ -29,7 +29,7 @@ QImage metal(const HVColors &c)
     QImage picture(kSize, QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&picture);
     painter.fillRect(
-        picture.rect(), verticalBrush(picture.rect(), c.bodyHi(), c.body(), c.bodyLo()));
+        picture.rect(), Painting::verticalBrush(picture.rect(), c.bodyHi(), c.body(), c.bodyLo()));
     return picture;
 }
 
