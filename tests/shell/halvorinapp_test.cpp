@@ -140,8 +140,11 @@ TEST_F(HalvorinAppTest, ALaterLaunchHandsItsPermissionToTheWindow)
     window().showMinimized();
     // This is where a platform looks for it when a window asks for the user's attention.
     QByteArray token;
-    const auto lookForIt = QObject::connect(&window(), &QWindow::windowStateChanged,
-        [&token] { token = qgetenv("XDG_ACTIVATION_TOKEN"); });
+    const auto lookForIt = QObject::connect(&window(), &QWindow::windowStateChanged, [&token] {
+        // The state may be told once more when the platform has followed.
+        if (token.isEmpty())
+            token = qgetenv("XDG_ACTIVATION_TOKEN");
+    });
     // when
     const std::future<void> later = machine->launchAgain("token-of-the-desktop");
     EXPECT_TRUE(waitUntil([] { return window().windowState() == Qt::WindowNoState; }));

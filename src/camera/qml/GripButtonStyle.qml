@@ -13,7 +13,7 @@ Pressable {
     QtObject {
         id: metrics
         readonly property color ink: root.selected || root.hovered ? root.c.oledText : root.c.engrave
-        readonly property var finish: root.hovered ? Metal.keyUnderPointer : Metal.key
+        readonly property finish finish: root.hovered ? Metal.keyUnderPointer : Metal.key
         readonly property size mark: Qt.size(20, 18)
     }
 

@@ -11,7 +11,7 @@ Pressable {
 
     QtObject {
         id: metrics
-        readonly property var finish: root.hovered ? Metal.shutterUnderPointer : Metal.shutter
+        readonly property finish finish: root.hovered ? Metal.shutterUnderPointer : Metal.shutter
     }
 
     width: 46

@@ -13,12 +13,12 @@ Rectangle {
         GlowButtonStyle {
             c: CameraPalette.current
             prominent: true
-            text: "Continue"
+            label: "Continue"
             symbol: "play.fill"
         }
         GlowButtonStyle {
             c: CameraPalette.current
-            text: "Continue"
+            label: "Continue"
         }
     }
 }

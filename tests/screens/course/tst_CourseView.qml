@@ -109,9 +109,9 @@ TestCase {
         compare(pane(), "LessonReader");
         compare(part("LessonReader").lessonID, "l2");
         compare(World.moduleID(), "light");
-        compare(row("A lens in the hole").weight, Font.Bold);
+        compare(row("A lens in the hole").lettering.weight, Font.Bold);
         compare(String(row("A lens in the hole").ink), String(CameraPalette.current.glow));
-        compare(row("A hole in the dark").weight, Font.Normal);
+        compare(row("A hole in the dark").lettering.weight, Font.Normal);
         compare(String(row("A hole in the dark").ink), String(CameraPalette.current.oledText));
     }
 
@@ -125,7 +125,7 @@ TestCase {
         compare(World.quizModuleID(), "light");
         compare(World.lessonID(), "none");
         compare(String(row("Module quiz").ink), String(CameraPalette.current.glow));
-        compare(row("A hole in the dark").weight, Font.Normal);
+        compare(row("A hole in the dark").lettering.weight, Font.Normal);
     }
 
     function test_leaves_the_quiz_for_a_lesson() {
@@ -153,7 +153,7 @@ TestCase {
         AppModel.openLesson("l1");
         press(row("Time"));
         compare(part("LessonReader").lessonID, "l1");
-        compare(row("The shutter").weight, Font.Normal);
+        compare(row("The shutter").lettering.weight, Font.Normal);
     }
 
     function test_opening_a_module_leaves_a_quiz() {
@@ -183,11 +183,11 @@ TestCase {
         press(Find.button(part("LessonReader"), "Finish & next lesson"));
         compare(part("LessonReader").lessonID, "l3");
         compare(rows(), ["Light and the camera", "Time", "The shutter", "Module quiz", "Chapters to come"]);
-        compare(row("The shutter").weight, Font.Bold);
+        compare(row("The shutter").lettering.weight, Font.Bold);
         press(Find.button(part("LessonReader"), "Previous"));
         compare(part("LessonReader").lessonID, "l2");
         compare(row("A lens in the hole").symbol, "checkmark.circle.fill");
-        compare(row("A lens in the hole").weight, Font.Bold);
+        compare(row("A lens in the hole").lettering.weight, Font.Bold);
     }
 
     function test_falls_through_to_what_is_there() {

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "kit/fonts.h"
+
+#include <QFont>
+#include <QObject>
+#include <QtQml/qqml.h>
+
+/// What the interface is lettered in: one name for each role that a text can have.
+class Type : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(QFont figure MEMBER figure CONSTANT)
+    Q_PROPERTY(QFont title MEMBER title CONSTANT)
+    Q_PROPERTY(QFont dialogTitle MEMBER dialogTitle CONSTANT)
+    Q_PROPERTY(QFont cardTitle MEMBER cardTitle CONSTANT)
+    Q_PROPERTY(QFont entryTitle MEMBER entryTitle CONSTANT)
+    Q_PROPERTY(QFont groupCaption MEMBER groupCaption CONSTANT)
+    Q_PROPERTY(QFont sectionCaption MEMBER sectionCaption CONSTANT)
+    Q_PROPERTY(QFont kitCaption MEMBER kitCaption CONSTANT)
+    Q_PROPERTY(QFont prose MEMBER prose CONSTANT)
+    Q_PROPERTY(QFont message MEMBER message CONSTANT)
+    Q_PROPERTY(QFont subtitle MEMBER subtitle CONSTANT)
+    Q_PROPERTY(QFont text MEMBER text CONSTANT)
+    Q_PROPERTY(QFont summary MEMBER summary CONSTANT)
+    Q_PROPERTY(QFont tip MEMBER tip CONSTANT)
+    Q_PROPERTY(QFont detail MEMBER detail CONSTANT)
+    Q_PROPERTY(QFont strongDetail MEMBER strongDetail CONSTANT)
+    Q_PROPERTY(QFont field MEMBER field CONSTANT)
+    Q_PROPERTY(QFont button MEMBER button CONSTANT)
+    Q_PROPERTY(QFont compactButton MEMBER compactButton CONSTANT)
+    Q_PROPERTY(QFont compactChrome MEMBER compactChrome CONSTANT)
+    Q_PROPERTY(QFont menuTitle MEMBER menuTitle CONSTANT)
+    Q_PROPERTY(QFont row MEMBER row CONSTANT)
+    Q_PROPERTY(QFont currentRow MEMBER currentRow CONSTANT)
+    Q_PROPERTY(QFont pill MEMBER pill CONSTANT)
+    Q_PROPERTY(QFont tag MEMBER tag CONSTANT)
+    Q_PROPERTY(QFont dial MEMBER dial CONSTANT)
+    Q_PROPERTY(QFont badge MEMBER badge CONSTANT)
+    Q_PROPERTY(QFont number MEMBER number CONSTANT)
+    Q_PROPERTY(QFont count MEMBER count CONSTANT)
+public:
+    using QObject::QObject;
+
+    // Headings, from the largest down.
+    const QFont figure = Fonts::rounded(30, QFont::ExtraBold);
+    const QFont title = Fonts::rounded(21, QFont::ExtraBold, 1.4);
+    const QFont dialogTitle = Fonts::rounded(16, QFont::ExtraBold);
+    const QFont cardTitle = Fonts::rounded(14, QFont::ExtraBold);
+    const QFont entryTitle = Fonts::rounded(13.5, QFont::DemiBold);
+    const QFont groupCaption = Fonts::rounded(11, QFont::ExtraBold, 1.5);
+    const QFont sectionCaption = Fonts::rounded(10.5, QFont::ExtraBold, 1.2);
+    const QFont kitCaption = Fonts::rounded(10, QFont::ExtraBold, 1.1);
+
+    // Sentences.
+    const QFont prose = Fonts::rounded(13.5);
+    const QFont message = Fonts::rounded(13);
+    const QFont subtitle = Fonts::rounded(12.5, QFont::Medium);
+    const QFont text = Fonts::rounded(12.5);
+    const QFont summary = Fonts::rounded(11.5);
+    const QFont tip = Fonts::rounded(11.5, QFont::Medium);
+    const QFont detail = Fonts::rounded(11);
+    const QFont strongDetail = Fonts::rounded(11, QFont::DemiBold);
+
+    // Controls.
+    const QFont field = Fonts::rounded(13, QFont::Medium);
+    const QFont button = Fonts::rounded(12.5, QFont::Bold);
+    const QFont compactButton = Fonts::rounded(11.5, QFont::Bold);
+    const QFont compactChrome = Fonts::rounded(11, QFont::Bold);
+    const QFont menuTitle = Fonts::rounded(12, QFont::Medium);
+    const QFont row = Fonts::rounded(12);
+    const QFont currentRow = Fonts::rounded(12, QFont::Bold);
+
+    // Lettering in capitals.
+    const QFont pill = Fonts::rounded(10, QFont::ExtraBold);
+    const QFont tag = Fonts::rounded(9.5, QFont::ExtraBold, 0.7);
+    const QFont dial = Fonts::rounded(9, QFont::Black);
+    const QFont badge = Fonts::rounded(8.5, QFont::Black);
+
+    // Figures that stand under one another.
+    const QFont number = Fonts::monospaced(13, QFont::ExtraBold);
+    const QFont count = Fonts::monospaced(11, QFont::Bold);
+};
