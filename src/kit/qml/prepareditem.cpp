@@ -95,10 +95,11 @@ PreparedItem::Placement PreparedItem::placement() const
             origin = fixed + scale * (origin - fixed);
             placement.scale *= scale;
         }
-        if (item->rotation() != 0)
+        if (item->rotation() != 0 || scale <= 0)
             placement.upright = false;
         origin += item->position();
     }
+    placement.scale = std::abs(placement.scale);
     if (window()) {
         placement.scale *= window()->effectiveDevicePixelRatio();
         origin *= window()->effectiveDevicePixelRatio();
@@ -111,13 +112,11 @@ PreparedItem::Placement PreparedItem::placement() const
 
 QSize PreparedItem::deviceSize() const
 {
-    if (size().isEmpty())
+    const double scale = renderScale();
+    if (size().isEmpty() || scale == 0)
         return {};
     // Lengths may be beyond what an int holds.
-    return (size() * renderScale())
-        .boundedTo({ kLongestSide, kLongestSide })
-        .toSize()
-        .expandedTo({ 1, 1 });
+    return (size() * scale).boundedTo({ kLongestSide, kLongestSide }).toSize().expandedTo({ 1, 1 });
 }
 
 QRectF PreparedItem::onDevice(const QRect &pixels) const
