@@ -201,6 +201,25 @@ TEST_P(PaintedItemTest, OutsideAMagnifiedTreeHasThePixelsThatItCovers)
     CNZoom::setValue(1);
 }
 
+TEST_F(PaintedItemTest, SurvivesBeingShrunkToNothingTurnedAndMirrored)
+{
+    SoftShadow shadow;
+    shadow.setParentItem(stage());
+    shadow.setSize({ 60, 40 });
+    shadow.setBlur(5);
+    stand({ 100, 100, 60, 40 });
+    item().setFillFrom(Qt::black);
+    const QRect usual = extent(picture());
+    for (const double scale : { 0.0, 1e-9, -1.0, 1.0 }) {
+        item().setScale(scale);
+        shadow.setScale(scale);
+        EXPECT_EQ(extent(picture()).isEmpty(), scale == 0) << scale;
+    }
+    EXPECT_EQ(extent(picture()), usual);
+    item().setRotation(90);
+    EXPECT_TRUE(extent(picture()).contains(QRect(112, 92, 36, 56)));
+}
+
 TEST_P(ShadowTest, HasNoSeamAnywhere)
 {
     magnify(GetParam() / 100.0);

@@ -39,7 +39,7 @@ std::shared_future<QImage> PaintedItem::paintAsync()
 
 void PaintedItem::prepare()
 {
-    if (!size().isEmpty())
+    if (!deviceSize().isEmpty())
         m_picture = paintAsync();
 }
 
@@ -51,7 +51,7 @@ void PaintedItem::settle()
 
 QSGNode *PaintedItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
 {
-    if (!isVisible() || size().isEmpty()) {
+    if (!isVisible() || deviceSize().isEmpty()) {
         delete old;
         return nullptr;
     }

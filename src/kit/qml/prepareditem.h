@@ -56,7 +56,8 @@ protected:
     /// Device pixels per logical unit, with the scales of all ancestors; 1 outside a window.
     [[nodiscard]] double renderScale() const { return placement().scale; }
 
-    /// The whole pixels of the device that the item covers, at least one unless it is empty.
+    /// The whole pixels of the device that the item covers, at least one unless it is empty
+    /// or shrunk to nothing.
     [[nodiscard]] QSize deviceSize() const;
 
     /// Where in the item's coordinates `pixels` of the device are, of which (0, 0) is the one

@@ -53,7 +53,7 @@ void SoftShadow::geometryChange(const QRectF &newGeometry, const QRectF &oldGeom
 
 bool SoftShadow::isSeen() const
 {
-    return isVisible() && !size().isEmpty() && m_color.alpha() != 0;
+    return isVisible() && !deviceSize().isEmpty() && m_color.alpha() != 0;
 }
 
 std::shared_future<Painting::ShadowPatch> SoftShadow::blurAsync() const
