@@ -136,7 +136,8 @@ TEST_F(HalvorinAppTest, ALaterLaunchBringsTheWindowToTheFront)
 
 TEST_F(HalvorinAppTest, ALaterLaunchHandsItsPermissionToTheWindow)
 {
-    // given
+    // given a window that has been drawn, so that the platform has nothing more to say of its state
+    ASSERT_TRUE(waitUntil([] { return !qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"); }));
     window().showMinimized();
     // This is where a platform looks for it when a window asks for the user's attention.
     QByteArray token;
