@@ -116,6 +116,18 @@ TestCase {
         verify(String(shownScreen()).startsWith("HomeView_") === false);
     }
 
+    function test_a_click_on_the_camera_leaves_the_keyboard_with_the_screen() {
+        const within = (item, place) => item && (item === place || within(item.parent, place));
+        const press = ["Course", "Next screen (Ctrl+])", "Campus"];
+        for (const label of press) {
+            mouseClick(Find.button(camera, label));
+            verify(within(test.Window.window.activeFocusItem, part("ScreenView")), label);
+        }
+        mouseClick(Find.button(part("TopPlate"), "Continue the course where you left off"));
+        tryVerify(() => part("LessonReader"));
+        verify(part("LessonReader").activeFocus);
+    }
+
     // Buttons say what they say in `label`: in `text` an "&" would mark a key.
     function test_no_button_of_any_screen_has_a_text_that_marks_a_key() {
         for (const button of Find.buttons(part("GripRail"))) {

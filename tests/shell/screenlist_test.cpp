@@ -9,11 +9,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QStringList texts(const ScreenList &list, ScreenList::Role role)
+QVariant value(const ScreenList &list, int row, const char *role)
+{
+    return list.index(row).data(list.roleNames().key(role, -1));
+}
+
+QStringList texts(const ScreenList &list, const char *role)
 {
     QStringList texts;
     for (int row = 0; row < list.rowCount(); ++row)
-        texts.append(list.index(row).data(role).toString());
+        texts.append(value(list, row, role).toString());
     return texts;
 }
 
@@ -24,7 +29,7 @@ TEST(ScreenList, HasARowForEachScreenInTheOrderOfTheDial)
     const ScreenList list;
     QList<Screen> screens;
     for (int row = 0; row < list.rowCount(); ++row)
-        screens.append(list.index(row).data(ScreenList::ScreenRole).value<Screen>());
+        screens.append(value(list, row, "screen").value<Screen>());
     EXPECT_EQ(screens,
         (QList<Screen>{ Screen::Home, Screen::Course, Screen::Exposure, Screen::Lens,
             Screen::History, Screen::Gear, Screen::Workflow, Screen::Videos, Screen::Notes }));
@@ -32,7 +37,7 @@ TEST(ScreenList, HasARowForEachScreenInTheOrderOfTheDial)
 
 TEST(ScreenList, CallsTheScreensByTheirTitles)
 {
-    EXPECT_EQ(texts(ScreenList(), ScreenList::TitleRole),
+    EXPECT_EQ(texts(ScreenList(), "title"),
         (QStringList{ u"Campus"_s, u"Course"_s, u"Exposure Lab"_s, u"Lens Lab"_s, u"History"_s,
             u"Gear Encyclopedia"_s, u"Workflows & Software"_s, u"Video Library"_s,
             u"My Notes & Progress"_s }));
@@ -40,7 +45,7 @@ TEST(ScreenList, CallsTheScreensByTheirTitles)
 
 TEST(ScreenList, GivesEachScreenTheDigitOfItsPlace)
 {
-    EXPECT_EQ(texts(ScreenList(), ScreenList::ShortcutRole),
+    EXPECT_EQ(texts(ScreenList(), "shortcut"),
         (QStringList{ u"Ctrl+1"_s, u"Ctrl+2"_s, u"Ctrl+3"_s, u"Ctrl+4"_s, u"Ctrl+5"_s, u"Ctrl+6"_s,
             u"Ctrl+7"_s, u"Ctrl+8"_s, u"Ctrl+9"_s }));
 }

@@ -9,6 +9,7 @@ Pressable {
     required property hvColors c
     required property string symbol
 
+    focusPolicy: Qt.TabFocus // a click leaves the keyboard to the display
     width: 22
     height: 30
     cornerRadius: 8

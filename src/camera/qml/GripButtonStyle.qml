@@ -24,6 +24,7 @@ Pressable {
     checked: root.selected
     Accessible.checkable: true
 
+    focusPolicy: Qt.TabFocus // a click leaves the keyboard to the display
     horizontalPadding: 12
     verticalPadding: 9
     cornerRadius: Geometry.buttonRadius

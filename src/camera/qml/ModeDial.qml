@@ -23,6 +23,7 @@ Row {
     }
     Pressable {
         id: dial
+        focusPolicy: Qt.TabFocus // a click leaves the keyboard to the display
         width: 58
         height: 58
         cornerRadius: 29

@@ -14,6 +14,7 @@ Pressable {
         readonly property finish finish: root.hovered ? Metal.shutterUnderPointer : Metal.shutter
     }
 
+    focusPolicy: Qt.TabFocus // a click leaves the keyboard to the display
     width: 46
     height: 46
     cornerRadius: 23

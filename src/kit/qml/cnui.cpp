@@ -72,38 +72,16 @@ QColor CNUI::gray(qreal white, qreal opacity) const
 }
 
 ThemeList::ThemeList(QObject *parent)
-    : QAbstractListModel(parent)
-    , m_themes(CRVNThemes::all())
+    : RowModel(parent)
 {
-    Preferences::shared().follow(CRVNThemes::key, this,
-        [this] { Q_EMIT dataChanged(index(0), index(rowCount() - 1), { CheckedRole }); });
-}
-
-int ThemeList::rowCount(const QModelIndex &parent) const
-{
-    return parent.isValid() ? 0 : int(m_themes.size());
-}
-
-QVariant ThemeList::data(const QModelIndex &index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const CRVNTheme &theme = m_themes.at(index.row());
-    switch (role) {
-    case NameRole:
-        return theme.name;
-    case IDRole:
-        return theme.id;
-    case CheckedRole:
-        return theme.id == CRVNThemes::currentID();
-    default:
-        return {};
-    }
-}
-
-QHash<int, QByteArray> ThemeList::roleNames() const
-{
-    return { { NameRole, "name" }, { IDRole, "themeID" }, { CheckedRole, "themeChecked" } };
+    showRows<CRVNTheme>(CRVNThemes::all(),
+        {
+            { "name", &CRVNTheme::name },
+            { "themeID", &CRVNTheme::id },
+            { "themeChecked",
+                [](const CRVNTheme &theme) { return theme.id == CRVNThemes::currentID(); } },
+        });
+    Preferences::shared().follow(CRVNThemes::key, this, [this] { refresh("themeChecked"); });
 }
 
 void ThemeList::choose(const QString &themeID)

@@ -1,9 +1,9 @@
 // The kit as QML sees it: its colors, its fonts, the choice of theme and of zoom.
 #pragma once
 
+#include "kit/rowmodel.h"
 #include "kit/themes.h"
 
-#include <QAbstractListModel>
 #include <QFont>
 #include <QObject>
 #include <QQuickItem>
@@ -62,25 +62,17 @@ private:
     CNKitTheme m_theme;
 };
 
-/// The themes as rows of a single-choice menu. The preference may name a theme that is gone; then
+/// The themes as rows of a single-choice menu: roles `name`, `themeID` and `themeChecked`. The
+/// preference may name a theme that is gone; then
 /// no row is checked.
-class ThemeList : public QAbstractListModel
+class ThemeList : public RowModel
 {
     Q_OBJECT
     QML_ELEMENT
 public:
-    enum Role { NameRole = Qt::UserRole, IDRole, CheckedRole };
-
     explicit ThemeList(QObject *parent = nullptr);
 
-    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
     Q_INVOKABLE void choose(const QString &themeID);
-
-private:
-    QList<CRVNTheme> m_themes;
 };
 
 /// The interface zoom.

@@ -1,13 +1,14 @@
 #pragma once
 
-#include <QAbstractListModel>
+#include "kit/rowmodel.h"
+
 #include <QSet>
 #include <QtQml/qqml.h>
 
 /// The Campus screen's figures and texts: progress over the whole course, the lesson to go on
 /// with, and a row for each module (roles `moduleID`, `level`, `title`, `summary`, `doneIn`,
 /// `lessonsIn`).
-class Campus : public QAbstractListModel
+class Campus : public RowModel
 {
     Q_OBJECT
     QML_ELEMENT
@@ -17,30 +18,17 @@ class Campus : public QAbstractListModel
     /// The label of the button that goes on; empty in a course without lessons.
     Q_PROPERTY(QString continueTitle READ continueTitle NOTIFY progressChanged)
 public:
-    enum Role {
-        ModuleIDRole = Qt::UserRole,
-        LevelRole,
-        TitleRole,
-        SummaryRole,
-        DoneInRole,
-        LessonsInRole,
-    };
-
     explicit Campus(QObject *parent = nullptr);
 
     [[nodiscard]] int done() const { return int(m_finished.size()); }
     [[nodiscard]] int total() const;
     [[nodiscard]] QString continueTitle() const;
 
-    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
 Q_SIGNALS:
     void progressChanged();
 
 private:
-    void refresh();
+    void follow();
 
     QSet<QString> m_finished;
 };

@@ -1,15 +1,15 @@
 #pragma once
 
-#include <QAbstractListModel>
+#include "kit/rowmodel.h"
+
 #include <QtQml/qqml.h>
 
 /// A list of things to go to: roles `itemID` and `title`.
-class ItemList : public QAbstractListModel
+class ItemList : public RowModel
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Handed out by the models of the screens")
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
 public:
     struct Item {
         QString id;
@@ -17,20 +17,13 @@ public:
 
         friend bool operator==(const Item &, const Item &) = default;
     };
-    enum Role { ItemIDRole = Qt::UserRole, TitleRole };
 
-    using QAbstractListModel::QAbstractListModel;
+    explicit ItemList(QObject *parent = nullptr);
 
     void setItems(const QList<Item> &items);
-    [[nodiscard]] int count() const { return int(m_items.size()); }
-
-    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
-    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
-
-Q_SIGNALS:
-    void countChanged();
 
 private:
+    void show();
+
     QList<Item> m_items;
 };

@@ -36,6 +36,7 @@ FocusScope {
         width: metrics.contentsWidth
         height: root.height
         c: root.c
+        onChosen: pane.forceActiveFocus()
     }
     Rectangle {
         x: metrics.contentsWidth

@@ -22,6 +22,17 @@ TestCase {
             c: CameraPalette.current
         }
     }
+    Component {
+        id: moduleCards
+        ModuleCard {
+            c: CameraPalette.current
+            moduleID: "light"
+            level: "Beginner"
+            summary: ""
+            doneIn: 2
+            lessonsIn: 5
+        }
+    }
     property Item home
 
     function init() {
@@ -45,6 +56,13 @@ TestCase {
     }
     function continueButton() {
         return Find.buttons(home).find(button => button.prominent);
+    }
+
+    function test_says_a_title_as_it_stands() {
+        for (const title of ["Light", "The %2 that is left", "%1 %2 %3 %4"]) {
+            const card = createTemporaryObject(moduleCards, test, { title: title });
+            compare(card.Accessible.name, title + ". Beginner. 2 of 5 lessons finished");
+        }
     }
 
     function test_greets_the_user() {

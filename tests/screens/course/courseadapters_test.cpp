@@ -188,7 +188,7 @@ TEST_F(CampusTest, IsAProperList)
         &campus, QAbstractItemModelTester::FailureReportingMode::Fatal);
     finish({ u"l1"_s });
     EXPECT_EQ(campus.rowCount(campus.index(0)), 0);
-    EXPECT_FALSE(campus.data(campus.index(3), Campus::TitleRole).isValid());
+    EXPECT_FALSE(campus.data(campus.index(3), Qt::UserRole).isValid());
     EXPECT_FALSE(campus.data(campus.index(0), Qt::DisplayRole).isValid());
 }
 
@@ -304,7 +304,7 @@ TEST_F(CourseOutlineTest, IsAProperList)
         &outline, QAbstractItemModelTester::FailureReportingMode::Fatal);
     outline.toggleModule(u"light"_s);
     EXPECT_EQ(outline.rowCount(outline.index(0)), 0);
-    EXPECT_FALSE(outline.data(outline.index(3), CourseOutline::TitleRole).isValid());
+    EXPECT_FALSE(outline.data(outline.index(3), Qt::UserRole).isValid());
 }
 
 TEST(CourseOutlineWithoutACourse, HasNoRows)
@@ -414,7 +414,7 @@ TEST_F(LessonListTest, IsAProperList)
     list.setModuleID(u"later"_s);
     list.setModuleID(u"time"_s);
     EXPECT_EQ(list.rowCount(list.index(0)), 0);
-    EXPECT_FALSE(list.data(list.index(1), LessonList::TitleRole).isValid());
+    EXPECT_FALSE(list.data(list.index(1), Qt::UserRole).isValid());
 }
 
 TEST(LessonListWithoutAStore, ShowsNothingFinished)
@@ -598,7 +598,7 @@ TEST_F(LessonReadingTest, HasNoGearIfAllOfItIsGone)
 {
     LessonReading lesson;
     lesson.setLessonID(u"l1"_s);
-    const Count changes(*lesson.gear(), &ItemList::countChanged);
+    const Count<RowModel> changes(*lesson.gear(), &RowModel::countChanged);
     lesson.setLessonID(u"l2"_s);
     EXPECT_EQ(lesson.gear()->count(), 0);
     EXPECT_EQ(lesson.videos()->count(), 0);

@@ -115,6 +115,26 @@ TestCase {
         compare(String(row("A hole in the dark").ink), String(CameraPalette.current.oledText));
     }
 
+    function test_reads_on_in_the_lesson_that_a_click_has_chosen() {
+        press(row("Light and the camera"));
+        press(row("A hole in the dark"));
+        part("LessonReader").contentHeight = 3000; // longer than those of the small course
+        keyClick(Qt.Key_PageDown);
+        verify(part("LessonReader").contentY > 0);
+        // From where the keyboard has put the focus, too.
+        row("A lens in the hole").forceActiveFocus(Qt.TabFocusReason);
+        press(row("A hole in the dark"));
+        verify(part("LessonReader").activeFocus);
+    }
+
+    function test_keeps_the_place_of_who_chooses_by_key() {
+        press(row("Light and the camera"));
+        row("A hole in the dark").forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_Return);
+        compare(part("LessonReader").lessonID, "l1");
+        verify(row("A hole in the dark").activeFocus);
+    }
+
     function test_shows_the_quiz_that_is_pressed() {
         press(row("Light and the camera"));
         press(row("A hole in the dark"));

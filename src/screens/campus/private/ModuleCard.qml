@@ -15,7 +15,8 @@ CardButton {
     required property int lessonsIn
 
     padding: 12
-    label: qsTr("%1. %2. %3 of %4 lessons finished").arg(root.title).arg(root.level).arg(root.doneIn).arg(root.lessonsIn)
+    // Joined, because a "%2" in a title would be filled in by the next arg().
+    label: [root.title, root.level, qsTr("%1 of %2 lessons finished").arg(root.doneIn).arg(root.lessonsIn)].join(". ")
     onClicked: AppModel.openModule(root.moduleID)
 
     Column {

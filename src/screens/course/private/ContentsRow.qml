@@ -13,12 +13,17 @@ Pressable {
     property color ink: root.c.oledText
     property font lettering: Type.row
 
+    /*! Clicked by mouse or finger. Who clicks by key has the focus here and goes on in the list. */
+    signal pointed()
+
     QtObject {
         id: metrics
         readonly property real markWidth: 16
         readonly property real gap: 5
     }
 
+    focusPolicy: Qt.TabFocus
+    onClicked: if (!root.activeFocus) root.pointed()
     cornerRadius: 6
     focusInk: root.c.glow
 

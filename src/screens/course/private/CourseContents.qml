@@ -9,6 +9,9 @@ import Halvorin.Screens
 HVScroll {
     id: root
 
+    /*! A lesson or a quiz has been chosen by mouse or finger. */
+    signal chosen()
+
     padding: 16
     spacing: 4
 
@@ -69,6 +72,7 @@ HVScroll {
                             symbolInk: finished ? root.c.good : root.c.oledDim
                             Accessible.description: finished ? qsTr("Finished") : ""
                             onClicked: outline.showLesson(lessonID)
+                            onPointed: root.chosen()
                         }
                     }
                     ContentsRow {
@@ -83,6 +87,7 @@ HVScroll {
                         symbolSize: 12
                         symbolInk: ink
                         onClicked: outline.showQuiz(moduleRow.moduleID)
+                        onPointed: root.chosen()
                     }
                 }
             }

@@ -42,7 +42,8 @@ HVScroll {
 
             width: parent?.width ?? 0
             c: root.c
-            label: qsTr("Lesson %1: %2, %3 min").arg(card.number).arg(card.title).arg(card.minutes)
+            // Joined, because a "%3" in a title would be filled in by the next arg().
+            label: [qsTr("Lesson %1: ").arg(card.number), card.title, qsTr(", %1 min").arg(card.minutes)].join("")
             onClicked: module.showLesson(card.lessonID)
 
             Item {
