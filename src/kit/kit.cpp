@@ -2,10 +2,10 @@
 
 namespace {
 
-QString &storedAppName()
+CRVNKit::Application &installed()
 {
-    static QString name = QStringLiteral("CRVN");
-    return name;
+    static CRVNKit::Application application;
+    return application;
 }
 
 std::function<CNKitTheme()> &themeSource()
@@ -14,13 +14,28 @@ std::function<CNKitTheme()> &themeSource()
     return source;
 }
 
+std::function<void(const QString &)> &helpAction()
+{
+    static std::function<void(const QString &)> action
+        = [](const QString &topicID) { CRVNHelp::show(topicID); };
+    return action;
+}
+
 } // namespace
 
 namespace CRVNKitHost {
 
 QString appName()
 {
-    return storedAppName();
+    return installed().name;
+}
+CRVNKit::Version appVersion()
+{
+    return installed().version;
+}
+QUrl creditURL()
+{
+    return installed().website;
 }
 
 CNKitTheme theme()
@@ -32,13 +47,23 @@ void setTheme(std::function<CNKitTheme()> source)
     themeSource() = std::move(source);
 }
 
+void showHelp(const QString &topicID)
+{
+    helpAction()(topicID);
+}
+void setShowHelp(std::function<void(const QString &)> action)
+{
+    helpAction() = std::move(action);
+}
+
 } // namespace CRVNKitHost
 
 namespace CRVNKit {
 
 void install(const Application &application)
 {
-    storedAppName() = application.name;
+    installed() = application;
+    CRVNHelp::setTopics(application.helpTopics);
     CRVNThemes::registerThemes(application.extraThemes);
 }
 

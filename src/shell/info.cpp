@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <tuple>
+
 namespace {
 
 // An environment variable that is set but empty counts as not set. The text stays as it is: to take
@@ -34,24 +36,39 @@ QString version()
     return QStringLiteral(HV_VERSION);
 }
 
-QString dataFolder()
+QString build()
+{
+    return QStringLiteral(HV_BUILD);
+}
+
+QString dataFolderPath()
 {
     const QString base = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     if (base.isEmpty())
         qFatal("This platform names no folder for application data.");
+    return base + QStringLiteral("/CRVN Halvorin");
+}
 
-    const QString folder = base + QStringLiteral("/CRVN Halvorin");
+QString dataFolder()
+{
+    const QString folder = dataFolderPath();
     // What the user writes is nobody else's business, whatever the umask says.
     if (QDir().mkpath(folder))
         QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     return folder;
 }
 
-QUrl databaseURL()
+QString databasePath()
 {
     const QString path = environmentPath("HV_DB_PATH");
-    return QUrl::fromLocalFile(
-        path.isEmpty() ? dataFolder() + QStringLiteral("/My Progress.sqlite") : path);
+    return path.isEmpty() ? dataFolderPath() + QStringLiteral("/My Progress.sqlite") : path;
+}
+
+QUrl databaseURL()
+{
+    if (qEnvironmentVariableIsEmpty("HV_DB_PATH"))
+        std::ignore = dataFolder();
+    return QUrl::fromLocalFile(databasePath());
 }
 
 QString contentFolder()

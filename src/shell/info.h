@@ -22,8 +22,9 @@ inline const QString specsNote = QStringLiteral(
 /// The maker's web site, https.
 [[nodiscard]] QUrl website();
 
-/// The version record of the program, such as "0.1.0".
+/// The version record of the program: its version, such as "1.0", and the number of the build.
 [[nodiscard]] QString version();
+[[nodiscard]] QString build();
 
 /// The per-user folder "CRVN Halvorin" in the platform's place for application data, an absolute
 /// path. Created if it is missing, readable by its owner only; that this failed shows later, when
@@ -33,6 +34,10 @@ inline const QString specsNote = QStringLiteral(
 /// The progress file: HV_DB_PATH if it is set and not empty (a relative path counts from the
 /// working folder), else "My Progress.sqlite" in dataFolder().
 [[nodiscard]] QUrl databaseURL();
+
+/// The same two places for a text that names them: nothing is created.
+[[nodiscard]] QString dataFolderPath();
+[[nodiscard]] QString databasePath();
 
 /// The folder of the course files, an absolute path: HV_CONTENT if it is set and not empty, else
 /// "content" beside the executable, else "share/crvn-halvorin/content" under the prefix that the

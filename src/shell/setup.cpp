@@ -2,8 +2,10 @@
 
 #include "camera/hvcolors.h"
 #include "content/contentlibrary.h"
+#include "kit/about.h"
 #include "kit/kit.h"
 #include "shell/appmodel.h"
+#include "shell/help/helptopics.h"
 #include "shell/info.h"
 #include "store/hverror.h"
 #include "store/rehearsal.h"
@@ -41,7 +43,18 @@ namespace HVSetup {
 void configure()
 {
     CRVNThemes::setDefaultID(HVThemes::brassID);
-    CRVNKit::install({ .name = HVInfo::appName, .extraThemes = HVThemes::extras() });
+    CRVNKit::install({
+        .name = HVInfo::appName,
+        .version = { .number = HVInfo::version(), .build = HVInfo::build() },
+        .website = HVInfo::website(),
+        // Not the texts themselves: they tell of the course, which isn't read yet.
+        .helpTopics = [] { return HVHelp::topics(); },
+        .extraThemes = HVThemes::extras(),
+    });
+    CRVNAbout::setExtraLines({
+        u"A complete photography course: lessons, labs, history, gear and videos."_s,
+        "Product specs, video links and history sources checked "_L1 + HVInfo::checkedISO + u'.',
+    });
 }
 
 void prepareCourse()

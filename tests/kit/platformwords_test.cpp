@@ -41,6 +41,13 @@ TEST(PlatformWords, NameTheKeys)
     EXPECT_EQ(localized(u"⌘+"_s), u"Ctrl++"_s);
 }
 
+TEST(PlatformWords, NameKeysAsMenusDo)
+{
+    EXPECT_EQ(localized(u"⌘+, ⌘− and ⌘0"_s), u"Ctrl++, Ctrl+- and Ctrl+0"_s);
+    EXPECT_EQ(localized(u"⌘?: this help."_s), u"Ctrl+Shift+/: this help."_s);
+    EXPECT_EQ(localized(u"The minus − stays."_s), u"The minus − stays."_s);
+}
+
 TEST(PlatformWords, NameKeysWithTwoModifiers)
 {
     EXPECT_EQ(
@@ -69,10 +76,16 @@ TEST(PlatformWords, FollowTheEnvironmentOfTheUser)
 }
 #endif
 
+TEST(PlatformWords, NameAFileByItsWholePath)
+{
+    const QString file = QDir::homePath() + u"/a folder/file.txt"_s;
+    EXPECT_EQ(PlatformWords::pathInText(file), QDir::toNativeSeparators(file));
+}
+
 TEST(PlatformWords, AreThereOnceAndForAll)
 {
     // Words that have been put in place don't change when the text comes by again.
-    const QString once = localized(u"On this Mac press ⇧⌘E."_s);
+    const QString once = localized(u"On this Mac press ⇧⌘E, ⌘− or ⌘?."_s);
     EXPECT_EQ(localized(once), once);
 }
 

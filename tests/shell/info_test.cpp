@@ -90,10 +90,22 @@ TEST(HVInfo, HasAWebsiteThatIsReachedSecurely)
     EXPECT_FALSE(HVInfo::website().host().isEmpty());
 }
 
-TEST(HVInfo, HasAVersionOfThreeNumbers)
+TEST(HVInfo, HasAVersionAndTheNumberOfABuild)
 {
-    static const QRegularExpression threeNumbers(uR"(^\d+\.\d+\.\d+$)"_s);
-    EXPECT_TRUE(threeNumbers.match(HVInfo::version()).hasMatch()) << qPrintable(HVInfo::version());
+    static const QRegularExpression twoNumbers(uR"(^\d+\.\d+$)"_s);
+    static const QRegularExpression number(uR"(^[1-9]\d*$)"_s);
+    EXPECT_TRUE(twoNumbers.match(HVInfo::version()).hasMatch()) << qPrintable(HVInfo::version());
+    EXPECT_TRUE(number.match(HVInfo::build()).hasMatch()) << qPrintable(HVInfo::build());
+}
+
+TEST_F(HVInfoPlaces, CanBeNamedWithoutBeingCreated)
+{
+    EXPECT_EQ(HVInfo::dataFolderPath(), home.path(u"data/CRVN Halvorin"_s));
+    EXPECT_EQ(HVInfo::databasePath(), home.path(u"data/CRVN Halvorin/My Progress.sqlite"_s));
+    EXPECT_FALSE(QFileInfo::exists(home.path(u"data"_s)));
+
+    const EnvironmentVariable path("HV_DB_PATH", home.path(u"mine.sqlite"_s));
+    EXPECT_EQ(HVInfo::databasePath(), home.path(u"mine.sqlite"_s));
 }
 
 TEST_F(HVInfoPlaces, TheDataFolderStandsInThePlatformsPlaceForApplicationData)

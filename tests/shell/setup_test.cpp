@@ -2,9 +2,11 @@
 
 #include "camera/hvcolors.h"
 #include "content/contentlibrary.h"
+#include "kit/about.h"
 #include "kit/kit.h"
 #include "kit/preferences.h"
 #include "shell/appmodel.h"
+#include "shell/info.h"
 #include "store/storetesting.h"
 #include "store/userstore.h"
 #include "support/environment.h"
@@ -185,6 +187,43 @@ TEST_F(HVSetupConfigure, TellsTheKitTheNameOfTheProgram)
 {
     HVSetup::configure();
     EXPECT_EQ(CRVNKitHost::appName(), u"CRVN Halvorin"_s);
+}
+
+TEST_F(HVSetupConfigure, HandsTheHelpTopicsOverWithoutReadingTheCourse)
+{
+    // given
+    const Folder folder;
+    ContentLibrary::setShared(nullptr);
+    const EnvironmentVariable content("HV_CONTENT", folder.path(u"course"_s));
+    HVSetup::configure();
+    TestCourse::write(folder.path(u"course"_s));
+    // when
+    const QList<CRVNHelpTopic> topics = CRVNHelp::allTopics();
+    // then
+    ASSERT_EQ(topics.size(), 21);
+    EXPECT_EQ(topics[0].id, u"start"_s);
+    EXPECT_EQ(topics[18].id, u"credits"_s);
+    EXPECT_TRUE(topics[18].body.contains("Bright Room"_L1)) << "a channel of this course";
+    EXPECT_EQ(topics[19].id, u"look"_s);
+    EXPECT_EQ(topics[20].id, u"about"_s);
+    ContentLibrary::setShared(nullptr);
+}
+
+TEST_F(HVSetupConfigure, CalledTwiceOffersTheSameTopicsOnce)
+{
+    HVSetup::configure();
+    HVSetup::configure();
+    EXPECT_EQ(CRVNHelp::allTopics().size(), 21);
+}
+
+TEST_F(HVSetupConfigure, GivesTheAboutWindowItsLines)
+{
+    HVSetup::configure();
+    EXPECT_EQ(CRVNAbout::version(), u"Version 1.0 (1)"_s);
+    EXPECT_EQ(CRVNAbout::extraLines(),
+        (QStringList{ u"A complete photography course: lessons, labs, history, gear and videos."_s,
+            u"Product specs, video links and history sources checked 2026-10-24."_s }));
+    EXPECT_EQ(CRVNKitHost::creditURL(), HVInfo::website());
 }
 
 TEST_F(HVSetupConfigure, StoresNoPreference)
