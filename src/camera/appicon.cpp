@@ -13,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
+using namespace Painting;
+
 namespace {
 
 /// The icon is laid out on a square of so many units.
