@@ -69,16 +69,16 @@ TestCase {
 
     function test_magnifies_the_camera() {
         keyClick("+", Qt.ControlModifier);
-        compare(CNZoom.zoom, 1.15);
+        compare(ZoomControl.zoom, 1.15);
         fuzzyCompare(camera().width, 1440 / 1.15, 0.001);
         fuzzyCompare(camera().height, 800, 0.001);
         keyClick("=", Qt.ControlModifier);
-        compare(CNZoom.zoom, 1.3);
+        compare(ZoomControl.zoom, 1.3);
         compare(camera().width, 1240);
         keyClick("-", Qt.ControlModifier);
-        compare(CNZoom.zoom, 1.15);
+        compare(ZoomControl.zoom, 1.15);
         keyClick("0", Qt.ControlModifier);
-        compare(CNZoom.zoom, 1);
+        compare(ZoomControl.zoom, 1);
     }
 
     function test_has_its_menus() {

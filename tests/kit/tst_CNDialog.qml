@@ -47,7 +47,7 @@ TestCase {
     function cleanup() {
         hasMessage = false;
         tryVerify(() => !dialog.visible);
-        CNZoom.actualSize();
+        ZoomControl.actualSize();
     }
     function show() {
         hasMessage = true;
@@ -129,7 +129,7 @@ TestCase {
 
     function test_stands_in_the_middle_of_the_window_and_within_it() {
         for (const level of ["85%", "100%", "150%", "200%"]) {
-            CNZoom.chooseLevel(CNZoom.levelTitles.indexOf(level));
+            ZoomControl.chooseLevel(ZoomControl.levelTitles.indexOf(level));
             show();
             verify(dialog.width <= dialog.parent.width - 32, level);
             fuzzyCompare(dialog.x + dialog.width / 2, dialog.parent.width / 2, 1);
@@ -143,7 +143,7 @@ TestCase {
         show();
         const plain = dialog.width;
         compare(plain, 420);
-        CNZoom.chooseLevel(CNZoom.levelTitles.indexOf("150%"));
+        ZoomControl.chooseLevel(ZoomControl.levelTitles.indexOf("150%"));
         compare(dialog.width, 630);
     }
 

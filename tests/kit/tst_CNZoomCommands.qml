@@ -19,11 +19,11 @@ TestCase {
     property CNZoomCommands menu
 
     function init() {
-        CNZoom.actualSize();
+        ZoomControl.actualSize();
         menu = createTemporaryObject(menus, test);
     }
     function cleanup() {
-        CNZoom.actualSize();
+        ZoomControl.actualSize();
     }
 
     function test_has_its_entries_in_their_order() {
@@ -44,7 +44,7 @@ TestCase {
         const reached = [];
         for (let i = 0; i < 8; ++i) {
             menu.actionAt(0).trigger();
-            reached.push(CNZoom.zoom);
+            reached.push(ZoomControl.zoom);
         }
         compare(reached, [1.15, 1.3, 1.45, 1.6, 1.75, 1.9, 2, 2]);
         verify(menu.actionAt(0).enabled);
@@ -52,16 +52,16 @@ TestCase {
 
     function test_zooms_out_to_the_limit() {
         menu.actionAt(1).trigger();
-        compare(CNZoom.zoom, 0.85);
+        compare(ZoomControl.zoom, 0.85);
         menu.actionAt(1).trigger();
-        compare(CNZoom.zoom, 0.85);
+        compare(ZoomControl.zoom, 0.85);
         verify(menu.actionAt(1).enabled);
     }
 
     function test_goes_back_to_the_actual_size() {
         menu.actionAt(0).trigger();
         menu.actionAt(2).trigger();
-        compare(CNZoom.zoom, 1);
+        compare(ZoomControl.zoom, 1);
     }
 
     function test_offers_every_level() {
@@ -74,16 +74,16 @@ TestCase {
             verify(!item.checkable);
             verify(item.enabled);
             item.triggered();
-            compare(CNZoom.levelTitles[i], item.text);
-            fuzzyCompare(CNZoom.zoom * 100, parseInt(item.text), 1e-9);
+            compare(ZoomControl.levelTitles[i], item.text);
+            fuzzyCompare(ZoomControl.zoom * 100, parseInt(item.text), 1e-9);
         }
         compare(titles, ["85%", "100%", "115%", "130%", "150%", "175%", "200%"]);
     }
 
     function test_a_level_that_is_not_there_changes_nothing() {
-        CNZoom.zoomIn();
-        CNZoom.chooseLevel(-1);
-        CNZoom.chooseLevel(7);
-        compare(CNZoom.zoom, 1.15);
+        ZoomControl.zoomIn();
+        ZoomControl.chooseLevel(-1);
+        ZoomControl.chooseLevel(7);
+        compare(ZoomControl.zoom, 1.15);
     }
 }

@@ -33,15 +33,15 @@ TestCase {
     }
 
     function init() {
-        CNZoom.actualSize();
+        ZoomControl.actualSize();
     }
     function cleanup() {
-        CNZoom.actualSize();
+        ZoomControl.actualSize();
     }
 
     function host(width, height, zoomLevel) {
         const item = createTemporaryObject(hosts, test, { width: width, height: height });
-        CNZoom.chooseLevel(CNZoom.levelTitles.indexOf(zoomLevel));
+        ZoomControl.chooseLevel(ZoomControl.levelTitles.indexOf(zoomLevel));
         return item;
     }
     // The page's upper left and lower right corners as they lie in the window.
@@ -118,7 +118,7 @@ TestCase {
         const page = item.page;
         item.width = 1100;
         compare(item.page.width, 1100);
-        CNZoom.zoomIn();
+        ZoomControl.zoomIn();
         fuzzyCompare(item.page.width, 960, 0.001);
         verify(item.page === page);
     }
@@ -128,7 +128,7 @@ TestCase {
         const surface = Find.scroller(item);
         surface.contentX = 300;
         surface.contentY = 200;
-        CNZoom.zoomOut();
+        ZoomControl.zoomOut();
         compare(surface.contentX, 0);
         compare(surface.contentY, 0);
         surface.contentX = 300;
@@ -140,7 +140,7 @@ TestCase {
 
     function test_comes_home_six_times() {
         const item = createTemporaryObject(flickables, test, { contentX: 50, contentY: 60 });
-        CNZoom.scrollHome(item);
+        ZoomControl.scrollHome(item);
         compare(item.contentX, 0);
         compare(item.contentY, 0);
         // Whatever the layout does meanwhile, five more follow.
@@ -154,7 +154,7 @@ TestCase {
 
     function test_comes_home_at_the_next_turn_of_the_event_loop() {
         const item = createTemporaryObject(flickables, test);
-        CNZoom.scrollHome(item);
+        ZoomControl.scrollHome(item);
         item.contentY = 60;
         wait(0);
         compare(item.contentY, 0);
@@ -162,8 +162,8 @@ TestCase {
 
     function test_two_requests_end_where_one_does() {
         const item = createTemporaryObject(flickables, test, { contentX: 50, contentY: 60 });
-        CNZoom.scrollHome(item);
-        CNZoom.scrollHome(item);
+        ZoomControl.scrollHome(item);
+        ZoomControl.scrollHome(item);
         compare(item.contentX, 0);
         for (let i = 0; i < 5; ++i) {
             item.contentX = 50;
@@ -173,10 +173,10 @@ TestCase {
 
     function test_a_request_outlives_what_it_was_for() {
         const item = flickables.createObject(test, { contentY: 60 });
-        CNZoom.scrollHome(item);
+        ZoomControl.scrollHome(item);
         item.destroy();
         wait(0);
-        CNZoom.scrollHome(null);
+        ZoomControl.scrollHome(null);
         wait(0);
     }
 
@@ -184,9 +184,9 @@ TestCase {
         const item = host(1000, 700, "100%");
         const capsule = createTemporaryQmlObject("import Halvorin.Kit; ContinuousRectangle { width: 40; height: 20 }", item.page);
         compare(capsule.textureSize, Qt.size(40, 20));
-        CNZoom.chooseLevel(CNZoom.levelTitles.indexOf("200%"));
+        ZoomControl.chooseLevel(ZoomControl.levelTitles.indexOf("200%"));
         compare(capsule.textureSize, Qt.size(80, 40));
-        CNZoom.chooseLevel(CNZoom.levelTitles.indexOf("115%"));
+        ZoomControl.chooseLevel(ZoomControl.levelTitles.indexOf("115%"));
         compare(capsule.textureSize, Qt.size(46, 23));
     }
 }

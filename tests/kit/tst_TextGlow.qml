@@ -31,10 +31,10 @@ TestCase {
     }
 
     function init() {
-        CNZoom.actualSize();
+        ZoomControl.actualSize();
     }
     function cleanup() {
-        CNZoom.actualSize();
+        ZoomControl.actualSize();
     }
 
     // The first and last columns that are lit.
@@ -60,7 +60,7 @@ TestCase {
         return ["85%", "100%", "200%"].map(title => ({ tag: title }));
     }
     function test_lies_under_its_text_at_every_zoom(data) {
-        CNZoom.chooseLevel(CNZoom.levelTitles.indexOf(data.tag));
+        ZoomControl.chooseLevel(ZoomControl.levelTitles.indexOf(data.tag));
         const glow = lit(createTemporaryObject(glows, test));
         fuzzyCompare((glow.first + glow.last) / 2, 200, 2);
         verify(glow.last - glow.first > 60, glow.last - glow.first);

@@ -60,6 +60,6 @@ T.ApplicationWindow {
     // Where "+" needs Shift, the key alone is "=".
     Shortcut {
         sequence: "Ctrl+="
-        onActivated: CNZoom.zoomIn()
+        onActivated: ZoomControl.zoomIn()
     }
 }

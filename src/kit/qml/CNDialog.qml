@@ -14,7 +14,7 @@ T.Dialog {
 
     QtObject {
         id: metrics
-        readonly property real zoom: CNZoom.zoom
+        readonly property real zoom: ZoomControl.zoom
         readonly property real width: 420
         readonly property real padding: 24
     }

@@ -9,7 +9,7 @@ T.ToolTip {
 
     required property Pressable control
 
-    readonly property real zoom: CNZoom.zoom
+    readonly property real zoom: ZoomControl.zoom
 
     text: root.control.tip
     visible: true

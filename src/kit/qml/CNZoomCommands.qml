@@ -13,29 +13,29 @@ CNMenu {
     T.Action {
         text: qsTr("Zoom In")
         shortcut: "Ctrl++"
-        onTriggered: CNZoom.zoomIn()
+        onTriggered: ZoomControl.zoomIn()
     }
     T.Action {
         text: qsTr("Zoom Out")
         shortcut: "Ctrl+-"
-        onTriggered: CNZoom.zoomOut()
+        onTriggered: ZoomControl.zoomOut()
     }
     T.Action {
         text: qsTr("Actual Size (100%)")
         shortcut: "Ctrl+0"
-        onTriggered: CNZoom.actualSize()
+        onTriggered: ZoomControl.actualSize()
     }
     CNMenu {
         id: levels
         title: qsTr("Zoom Level")
 
         Instantiator {
-            model: CNZoom.levelTitles
+            model: ZoomControl.levelTitles
             delegate: CNMenuItem {
                 required property string modelData
                 required property int index
                 text: modelData
-                onTriggered: CNZoom.chooseLevel(index)
+                onTriggered: ZoomControl.chooseLevel(index)
             }
             onObjectAdded: (index, object) => levels.insertItem(index, object)
             onObjectRemoved: (index, object) => levels.removeItem(object)

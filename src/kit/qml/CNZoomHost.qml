@@ -14,14 +14,14 @@ Item {
         readonly property size offered: Qt.size(root.width, root.height)
         // Nothing while nothing is offered, or all would be laid out in its smallest size first.
         readonly property size logical: metrics.offered.width > 0 && metrics.offered.height > 0
-            ? CNZoom.logicalSize(metrics.offered, CNZoom.zoom, root.minSize) : Qt.size(0, 0)
-        readonly property bool scrolls: CNZoom.scrolls(metrics.offered, CNZoom.zoom, root.minSize)
-        readonly property real zoom: CNZoom.zoom
-        onOfferedChanged: CNZoom.scrollHome(surface)
-        onZoomChanged: CNZoom.scrollHome(surface)
+            ? ZoomControl.logicalSize(metrics.offered, ZoomControl.zoom, root.minSize) : Qt.size(0, 0)
+        readonly property bool scrolls: ZoomControl.scrolls(metrics.offered, ZoomControl.zoom, root.minSize)
+        readonly property real zoom: ZoomControl.zoom
+        onOfferedChanged: ZoomControl.scrollHome(surface)
+        onZoomChanged: ZoomControl.scrollHome(surface)
     }
 
-    Component.onCompleted: CNZoom.scrollHome(surface)
+    Component.onCompleted: ZoomControl.scrollHome(surface)
 
     ScrollSurface {
         id: surface

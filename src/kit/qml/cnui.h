@@ -1,13 +1,9 @@
-// The kit as QML sees it: its colors, its fonts, the choice of theme and of zoom.
 #pragma once
 
-#include "kit/rowmodel.h"
 #include "kit/themes.h"
 
 #include <QFont>
 #include <QObject>
-#include <QQuickItem>
-#include <QSizeF>
 #include <QtQml/qqml.h>
 
 struct CNKitThemeForQml {
@@ -60,48 +56,4 @@ Q_SIGNALS:
 
 private:
     CNKitTheme m_theme;
-};
-
-/// The themes as rows of a single-choice menu: roles `name`, `themeID` and `themeChecked`. The
-/// preference may name a theme that is gone; then
-/// no row is checked.
-class ThemeList : public RowModel
-{
-    Q_OBJECT
-    QML_ELEMENT
-public:
-    explicit ThemeList(QObject *parent = nullptr);
-
-    Q_INVOKABLE void choose(const QString &themeID);
-};
-
-/// The interface zoom.
-class ZoomControl : public QObject
-{
-    Q_OBJECT
-    QML_NAMED_ELEMENT(CNZoom)
-    QML_SINGLETON
-    Q_PROPERTY(qreal zoom READ zoom NOTIFY zoomChanged)
-    Q_PROPERTY(QStringList levelTitles READ levelTitles CONSTANT)
-public:
-    explicit ZoomControl(QObject *parent = nullptr);
-
-    [[nodiscard]] qreal zoom() const;
-    [[nodiscard]] QStringList levelTitles() const;
-
-    Q_INVOKABLE void zoomIn();
-    Q_INVOKABLE void zoomOut();
-    Q_INVOKABLE void actualSize();
-    /// Takes the n-th of `levelTitles`.
-    Q_INVOKABLE void chooseLevel(int index);
-
-    Q_INVOKABLE [[nodiscard]] QSizeF logicalSize(QSizeF offered, qreal zoom, QSizeF minimum) const;
-    Q_INVOKABLE [[nodiscard]] bool scrolls(QSizeF offered, qreal zoom, QSizeF minimum) const;
-
-    /// Brings a flickable back to its origin: now, on the next turn of the event loop, and four
-    /// times while the layout settles. Requests are not canceled by later ones.
-    Q_INVOKABLE void scrollHome(QQuickItem *flickable);
-
-Q_SIGNALS:
-    void zoomChanged();
 };

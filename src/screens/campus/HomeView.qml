@@ -13,8 +13,8 @@ HVScroll {
     padding: 22
     spacing: 16
 
-    Campus {
-        id: campus
+    HomeOverview {
+        id: overview
     }
 
     Item {
@@ -47,11 +47,11 @@ HVScroll {
 
                 GlowButtonStyle {
                     width: Math.min(implicitWidth, ways.width)
-                    visible: campus.continueTitle !== ""
+                    visible: overview.continueTitle !== ""
                     c: root.c
                     prominent: true
                     symbol: "play.fill"
-                    label: campus.continueTitle
+                    label: overview.continueTitle
                     onClicked: AppModel.continueCourse()
                 }
                 GlowButtonStyle {
@@ -72,8 +72,8 @@ HVScroll {
             id: ring
             anchors.right: parent.right
             c: root.c
-            done: campus.done
-            total: campus.total
+            done: overview.done
+            total: overview.total
         }
     }
     HvText {
@@ -88,7 +88,7 @@ HVScroll {
         width: parent.width
         minimumColumnWidth: 250
         spacing: 12
-        model: campus
+        model: overview
         delegate: ModuleCard {
             width: modules.columnWidth // known while its texts are laid out for the first time
             c: root.c

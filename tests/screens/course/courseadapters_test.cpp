@@ -1,6 +1,9 @@
-#include "screens/campus/campus.h"
+#include "screens/campus/homeoverview.h"
 #include "screens/course/private/courseoutline.h"
 #include "screens/course/private/coursereading.h"
+#include "screens/course/private/lessonlist.h"
+#include "screens/course/private/lessonreading.h"
+#include "screens/course/private/modulereading.h"
 
 #include "kit/printing.h"
 #include "screens/coursetesting.h"
@@ -94,135 +97,135 @@ protected:
     World world;
 };
 
-using CampusTest = WithCourse;
+using HomeOverviewTest = WithCourse;
 using CourseOutlineTest = WithCourse;
 using LessonListTest = WithCourse;
 using CourseReadingTest = WithCourse;
-using ModuleIntroductionTest = WithCourse;
+using ModuleReadingTest = WithCourse;
 using LessonReadingTest = WithCourse;
 
 } // namespace
 
-TEST_F(CampusTest, HasARowForEachModuleInTheOrderOfTheCourse)
+TEST_F(HomeOverviewTest, HasARowForEachModuleInTheOrderOfTheCourse)
 {
-    const Campus campus;
-    EXPECT_EQ(column(campus, "moduleID"), QStringList({ u"light"_s, u"time"_s, u"later"_s }));
-    EXPECT_EQ(column(campus, "title"),
+    const HomeOverview overview;
+    EXPECT_EQ(column(overview, "moduleID"), QStringList({ u"light"_s, u"time"_s, u"later"_s }));
+    EXPECT_EQ(column(overview, "title"),
         QStringList({ u"Light and the camera"_s, u"Time"_s, u"Chapters to come"_s }));
-    EXPECT_EQ(column(campus, "level"), QStringList({ u"Beginner"_s, u"Advanced"_s, u""_s }));
-    EXPECT_EQ(column(campus, "summary"),
+    EXPECT_EQ(column(overview, "level"), QStringList({ u"Beginner"_s, u"Advanced"_s, u""_s }));
+    EXPECT_EQ(column(overview, "summary"),
         QStringList({ u"What happens between the scene and the file."_s,
             u"How long the shutter stays open."_s, u""_s }));
 }
 
-TEST_F(CampusTest, CountsLessonsPerModuleAndOverall)
+TEST_F(HomeOverviewTest, CountsLessonsPerModuleAndOverall)
 {
-    const Campus campus;
+    const HomeOverview overview;
     // The stray lesson counts for the course and for no module.
-    EXPECT_EQ(column(campus, "lessonsIn"), QStringList({ u"2"_s, u"1"_s, u"0"_s }));
-    EXPECT_EQ(campus.total(), 4);
+    EXPECT_EQ(column(overview, "lessonsIn"), QStringList({ u"2"_s, u"1"_s, u"0"_s }));
+    EXPECT_EQ(overview.total(), 4);
 }
 
-TEST_F(CampusTest, OfAFreshUserBeginsWithLessonOne)
+TEST_F(HomeOverviewTest, OfAFreshUserBeginsWithLessonOne)
 {
-    const Campus campus;
-    EXPECT_EQ(campus.done(), 0);
-    EXPECT_EQ(column(campus, "doneIn"), QStringList({ u"0"_s, u"0"_s, u"0"_s }));
-    EXPECT_EQ(campus.continueTitle(), u"Start lesson 1"_s);
+    const HomeOverview overview;
+    EXPECT_EQ(overview.done(), 0);
+    EXPECT_EQ(column(overview, "doneIn"), QStringList({ u"0"_s, u"0"_s, u"0"_s }));
+    EXPECT_EQ(overview.continueTitle(), u"Start lesson 1"_s);
 }
 
-TEST_F(CampusTest, ContinuesWithTheFirstUnfinishedLesson)
+TEST_F(HomeOverviewTest, ContinuesWithTheFirstUnfinishedLesson)
 {
     finish({ u"l1"_s, u"l3"_s });
-    const Campus campus;
-    EXPECT_EQ(campus.done(), 2);
-    EXPECT_EQ(column(campus, "doneIn"), QStringList({ u"1"_s, u"1"_s, u"0"_s }));
-    EXPECT_EQ(campus.continueTitle(), u"Continue: A lens in the hole"_s);
+    const HomeOverview overview;
+    EXPECT_EQ(overview.done(), 2);
+    EXPECT_EQ(column(overview, "doneIn"), QStringList({ u"1"_s, u"1"_s, u"0"_s }));
+    EXPECT_EQ(overview.continueTitle(), u"Continue: A lens in the hole"_s);
 }
 
-TEST_F(CampusTest, ContinuesWithTheFirstLessonWhenAllAreFinished)
+TEST_F(HomeOverviewTest, ContinuesWithTheFirstLessonWhenAllAreFinished)
 {
     finish(lessonIDs());
-    const Campus campus;
-    EXPECT_EQ(campus.done(), 4);
-    EXPECT_EQ(campus.continueTitle(), u"Continue: A hole in the dark"_s);
+    const HomeOverview overview;
+    EXPECT_EQ(overview.done(), 4);
+    EXPECT_EQ(overview.continueTitle(), u"Continue: A hole in the dark"_s);
 }
 
-TEST_F(CampusTest, CountsFinishedLessonsThatHaveLeftTheCourse)
+TEST_F(HomeOverviewTest, CountsFinishedLessonsThatHaveLeftTheCourse)
 {
     finish({ u"l1"_s, u"an-old-lesson"_s });
-    const Campus campus;
-    EXPECT_EQ(campus.done(), 2);
-    EXPECT_EQ(campus.total(), 4);
-    EXPECT_EQ(column(campus, "doneIn"), QStringList({ u"1"_s, u"0"_s, u"0"_s }));
+    const HomeOverview overview;
+    EXPECT_EQ(overview.done(), 2);
+    EXPECT_EQ(overview.total(), 4);
+    EXPECT_EQ(column(overview, "doneIn"), QStringList({ u"1"_s, u"0"_s, u"0"_s }));
 }
 
-TEST_F(CampusTest, ContinuesAndDoesNotStartIfOnlyAnOldLessonIsFinished)
+TEST_F(HomeOverviewTest, ContinuesAndDoesNotStartIfOnlyAnOldLessonIsFinished)
 {
     finish({ u"an-old-lesson"_s });
-    EXPECT_EQ(Campus().continueTitle(), u"Continue: A hole in the dark"_s);
+    EXPECT_EQ(HomeOverview().continueTitle(), u"Continue: A hole in the dark"_s);
 }
 
-TEST_F(CampusTest, FollowsTheStore)
+TEST_F(HomeOverviewTest, FollowsTheStore)
 {
-    const Campus campus;
-    Told told(campus);
-    const Count progress(campus, &Campus::progressChanged);
+    const HomeOverview overview;
+    Told told(overview);
+    const Count progress(overview, &HomeOverview::progressChanged);
     store().setComplete(u"l1"_s, true);
-    EXPECT_EQ(campus.done(), 1);
-    EXPECT_EQ(value(campus, 0, "doneIn").toInt(), 1);
-    EXPECT_EQ(campus.continueTitle(), u"Continue: A lens in the hole"_s);
+    EXPECT_EQ(overview.done(), 1);
+    EXPECT_EQ(value(overview, 0, "doneIn").toInt(), 1);
+    EXPECT_EQ(overview.continueTitle(), u"Continue: A lens in the hole"_s);
     EXPECT_EQ(told.roles, QStringList(u"doneIn"_s));
     EXPECT_TRUE(told.coversAllRows);
     EXPECT_EQ(progress.times, 1);
 
     store().setComplete(u"l1"_s, false);
-    EXPECT_EQ(campus.done(), 0);
-    EXPECT_EQ(campus.continueTitle(), u"Start lesson 1"_s);
+    EXPECT_EQ(overview.done(), 0);
+    EXPECT_EQ(overview.continueTitle(), u"Start lesson 1"_s);
 }
 
-TEST_F(CampusTest, IsAProperList)
+TEST_F(HomeOverviewTest, IsAProperList)
 {
-    Campus campus;
+    HomeOverview overview;
     const QAbstractItemModelTester tester(
-        &campus, QAbstractItemModelTester::FailureReportingMode::Fatal);
+        &overview, QAbstractItemModelTester::FailureReportingMode::Fatal);
     finish({ u"l1"_s });
-    EXPECT_EQ(campus.rowCount(campus.index(0)), 0);
-    EXPECT_FALSE(campus.data(campus.index(3), Qt::UserRole).isValid());
-    EXPECT_FALSE(campus.data(campus.index(0), Qt::DisplayRole).isValid());
+    EXPECT_EQ(overview.rowCount(overview.index(0)), 0);
+    EXPECT_FALSE(overview.data(overview.index(3), Qt::UserRole).isValid());
+    EXPECT_FALSE(overview.data(overview.index(0), Qt::DisplayRole).isValid());
 }
 
-TEST(CampusWithoutLessons, HasNothingToContinueWith)
+TEST(HomeOverviewWithoutLessons, HasNothingToContinueWith)
 {
     const World world(Course::Bare);
-    const Campus campus;
-    EXPECT_EQ(campus.total(), 0);
-    EXPECT_EQ(campus.done(), 0);
-    EXPECT_EQ(campus.continueTitle(), QString());
-    EXPECT_EQ(column(campus, "lessonsIn"), QStringList(u"0"_s));
-    EXPECT_EQ(column(campus, "doneIn"), QStringList(u"0"_s));
+    const HomeOverview overview;
+    EXPECT_EQ(overview.total(), 0);
+    EXPECT_EQ(overview.done(), 0);
+    EXPECT_EQ(overview.continueTitle(), QString());
+    EXPECT_EQ(column(overview, "lessonsIn"), QStringList(u"0"_s));
+    EXPECT_EQ(column(overview, "doneIn"), QStringList(u"0"_s));
 }
 
-TEST(CampusWithoutACourse, HasNoRows)
+TEST(HomeOverviewWithoutACourse, HasNoRows)
 {
     const World world(Course::Empty);
-    Campus campus;
-    const Told told(campus);
-    EXPECT_EQ(campus.rowCount(), 0);
-    EXPECT_EQ(campus.continueTitle(), QString());
+    HomeOverview overview;
+    const Told told(overview);
+    EXPECT_EQ(overview.rowCount(), 0);
+    EXPECT_EQ(overview.continueTitle(), QString());
     // A change of the store finds no row to change.
     store().setComplete(u"an-old-lesson"_s, true);
     EXPECT_EQ(told.roles, QStringList());
-    EXPECT_EQ(campus.done(), 1);
+    EXPECT_EQ(overview.done(), 1);
 }
 
-TEST(CampusWithoutAStore, ShowsNothingFinished)
+TEST(HomeOverviewWithoutAStore, ShowsNothingFinished)
 {
     const World world(Course::Small, World::Store::None);
-    const Campus campus;
-    EXPECT_EQ(campus.done(), 0);
-    EXPECT_EQ(column(campus, "doneIn"), QStringList({ u"0"_s, u"0"_s, u"0"_s }));
-    EXPECT_EQ(campus.continueTitle(), u"Start lesson 1"_s);
+    const HomeOverview overview;
+    EXPECT_EQ(overview.done(), 0);
+    EXPECT_EQ(column(overview, "doneIn"), QStringList({ u"0"_s, u"0"_s, u"0"_s }));
+    EXPECT_EQ(overview.continueTitle(), u"Start lesson 1"_s);
 }
 
 TEST_F(CourseOutlineTest, HasARowForEachModule)
@@ -506,9 +509,9 @@ TEST(CourseReadingWithoutACourse, IntroducesNoModule)
     EXPECT_EQ(reading.moduleID(), QString());
 }
 
-TEST_F(ModuleIntroductionTest, TellsOfItsModule)
+TEST_F(ModuleReadingTest, TellsOfItsModule)
 {
-    ModuleIntroduction introduction;
+    ModuleReading introduction;
     introduction.setModuleID(u"light"_s);
     EXPECT_EQ(introduction.level(), u"Beginner"_s);
     EXPECT_EQ(introduction.title(), u"Light and the camera"_s);
@@ -516,16 +519,16 @@ TEST_F(ModuleIntroductionTest, TellsOfItsModule)
     EXPECT_EQ(introduction.quizTitle(), u"Take the module quiz (2 questions)"_s);
 }
 
-TEST_F(ModuleIntroductionTest, OffersTheQuizWhateverTheNumberOfQuestions)
+TEST_F(ModuleReadingTest, OffersTheQuizWhateverTheNumberOfQuestions)
 {
-    ModuleIntroduction introduction;
+    ModuleReading introduction;
     introduction.setModuleID(u"time"_s);
     EXPECT_EQ(introduction.quizTitle(), u"Take the module quiz (0 questions)"_s);
 }
 
-TEST_F(ModuleIntroductionTest, HasAPlaceholderForNoModule)
+TEST_F(ModuleReadingTest, HasAPlaceholderForNoModule)
 {
-    ModuleIntroduction introduction;
+    ModuleReading introduction;
     for (const QString &id : { u""_s, u"no-such-module"_s }) {
         introduction.setModuleID(id);
         EXPECT_EQ(introduction.level(), QString());
@@ -535,27 +538,27 @@ TEST_F(ModuleIntroductionTest, HasAPlaceholderForNoModule)
     }
 }
 
-TEST_F(ModuleIntroductionTest, SignalsAnotherModuleOnce)
+TEST_F(ModuleReadingTest, SignalsAnotherModuleOnce)
 {
-    ModuleIntroduction introduction;
-    const Count changes(introduction, &ModuleIntroduction::moduleIDChanged);
+    ModuleReading introduction;
+    const Count changes(introduction, &ModuleReading::moduleIDChanged);
     introduction.setModuleID(u"light"_s);
     introduction.setModuleID(u"light"_s);
     EXPECT_EQ(changes.times, 1);
 }
 
-TEST_F(ModuleIntroductionTest, ShowsALessonWithoutOpeningItsModule)
+TEST_F(ModuleReadingTest, ShowsALessonWithoutOpeningItsModule)
 {
-    ModuleIntroduction introduction;
+    ModuleReading introduction;
     introduction.setModuleID(u"light"_s);
     introduction.showLesson(u"l2"_s);
     EXPECT_EQ(model().lessonID(), u"l2"_s);
     EXPECT_EQ(model().moduleID(), std::nullopt);
 }
 
-TEST_F(ModuleIntroductionTest, ShowsItsQuiz)
+TEST_F(ModuleReadingTest, ShowsItsQuiz)
 {
-    ModuleIntroduction introduction;
+    ModuleReading introduction;
     introduction.setModuleID(u"time"_s);
     introduction.showQuiz();
     EXPECT_EQ(model().quizModuleID(), u"time"_s);

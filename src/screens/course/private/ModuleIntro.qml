@@ -14,7 +14,7 @@ HVScroll {
     padding: 24
     spacing: 14
 
-    ModuleIntroduction {
+    ModuleReading {
         id: module
         moduleID: root.moduleID
     }

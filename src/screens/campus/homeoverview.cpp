@@ -1,4 +1,4 @@
-#include "screens/campus/campus.h"
+#include "screens/campus/homeoverview.h"
 
 #include "screens/common/storefollower.h"
 
@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-Campus::Campus(QObject *parent)
+HomeOverview::HomeOverview(QObject *parent)
     : RowModel(parent)
     , m_finished(finishedLessons())
 {
@@ -27,15 +27,15 @@ Campus::Campus(QObject *parent)
                 [&library](
                     const Module &module) { return int(library.lessonsIn(module.id).size()); } },
         });
-    followStore(this, &Campus::follow);
+    followStore(this, &HomeOverview::follow);
 }
 
-int Campus::total() const
+int HomeOverview::total() const
 {
     return int(ContentLibrary::shared().lessons().size());
 }
 
-QString Campus::continueTitle() const
+QString HomeOverview::continueTitle() const
 {
     const Lesson *next = AppModel::shared().nextLesson(UserStore::shared());
     if (!next)
@@ -43,7 +43,7 @@ QString Campus::continueTitle() const
     return m_finished.isEmpty() ? tr("Start lesson 1") : tr("Continue: %1").arg(next->title);
 }
 
-void Campus::follow()
+void HomeOverview::follow()
 {
     m_finished = finishedLessons();
     refresh("doneIn");

@@ -8,7 +8,7 @@
 /// The Campus screen's figures and texts: progress over the whole course, the lesson to go on
 /// with, and a row for each module (roles `moduleID`, `level`, `title`, `summary`, `doneIn`,
 /// `lessonsIn`).
-class Campus : public RowModel
+class HomeOverview : public RowModel
 {
     Q_OBJECT
     QML_ELEMENT
@@ -18,7 +18,7 @@ class Campus : public RowModel
     /// The label of the button that goes on; empty in a course without lessons.
     Q_PROPERTY(QString continueTitle READ continueTitle NOTIFY progressChanged)
 public:
-    explicit Campus(QObject *parent = nullptr);
+    explicit HomeOverview(QObject *parent = nullptr);
 
     [[nodiscard]] int done() const { return int(m_finished.size()); }
     [[nodiscard]] int total() const;
