@@ -69,9 +69,9 @@ TestCase {
             }
             SearchCapsule {
                 id: capsule
-                x: 380
+                x: 430
                 y: 30
-                width: 200
+                width: 150
                 prompt: "Search"
                 text: ""
             }
@@ -288,7 +288,8 @@ TestCase {
     function test_reveals_a_field_that_a_shortcut_focuses() {
         const item = createTemporaryObject(fields, test);
         item.focusField();
-        verify(item.contentX + item.width >= 580);
+        // With all of the capsule around it.
+        compare(item.contentX, 580 + 16 - 200);
     }
 
     function test_stays_when_the_mouse_focuses_something() {

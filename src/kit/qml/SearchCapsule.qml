@@ -46,6 +46,7 @@ Item {
     }
     T.TextField {
         id: field
+        readonly property Item focusFrame: root
         anchors {
             left: glass.right
             leftMargin: root.spacing

@@ -46,6 +46,13 @@ bool isFocusedByKey(const QQuickItem &item)
     }
 }
 
+// The item that shows the focus of this one.
+QQuickItem *focusFrame(QQuickItem *item)
+{
+    auto *frame = item->property("focusFrame").value<QQuickItem *>();
+    return frame ? frame : item;
+}
+
 } // namespace
 
 QPointF ScrollBehavior::position() const
@@ -127,7 +134,7 @@ void ScrollBehavior::followFocus()
     // One of the panes around it begins; the others follow from within outwards, since a pane that
     // moves takes the item with it.
     if (item && isFocusedByKey(*item) && around(item) == this)
-        reveal(item);
+        reveal(focusFrame(item));
 }
 
 bool ScrollBehavior::eventFilter(QObject *watched, QEvent *event)

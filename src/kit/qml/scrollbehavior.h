@@ -15,6 +15,9 @@ class QWheelEvent;
 /// Panes may stand in each other. What a pane can't follow, because it is at its end or doesn't
 /// scroll in that direction, goes on to the pane around it. Shift turns the wheel sideways.
 ///
+/// It shows what the Tab key or a shortcut gives the focus to. An item whose focus is seen on a
+/// larger one around it, such as the field in a search capsule, names that as its `focusFrame`.
+///
 /// A drag of the mouse moves nothing, so that texts can be selected. Qt 6.4's Flickable follows
 /// both mouse and finger or neither; it is switched by what touches the window next.
 class ScrollBehavior : public QObject, public QQmlParserStatus
