@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Halvorin.Kit
 import Halvorin.Camera
 
 /*! Small buttons in a grid, each for an item with the roles `itemID` and `title`; the chosen id

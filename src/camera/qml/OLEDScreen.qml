@@ -1,5 +1,4 @@
 import QtQuick
-import Halvorin.Kit
 import Halvorin.Camera
 
 /*! The camera's display: whatever is put into it, behind glass. */

@@ -4,7 +4,6 @@ import QtQuick
 import QtQuick.Templates as T
 import Halvorin.Kit
 import Halvorin.Camera
-import Halvorin.Shell
 import Halvorin.Window
 
 /*! The program's one window: the menu bar, and the camera under the interface zoom. */

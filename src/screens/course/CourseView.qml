@@ -1,5 +1,4 @@
 import QtQuick
-import Halvorin.Kit
 import Halvorin.Camera
 import Halvorin.Screens
 

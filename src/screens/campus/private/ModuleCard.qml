@@ -16,7 +16,7 @@ CardButton {
 
     padding: 12
     // Joined, because a "%2" in a title would be filled in by the next arg().
-    label: [root.title, root.level, qsTr("%1 of %2 lessons finished").arg(root.doneIn).arg(root.lessonsIn)].join(". ")
+    label: root.title + ". " + root.level + ". " + qsTr("%1 of %2 lessons finished").arg(root.doneIn).arg(root.lessonsIn)
     onClicked: AppModel.openModule(root.moduleID)
 
     Column {

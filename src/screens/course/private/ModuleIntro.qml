@@ -43,7 +43,7 @@ HVScroll {
             width: parent?.width ?? 0
             c: root.c
             // Joined, because a "%3" in a title would be filled in by the next arg().
-            label: [qsTr("Lesson %1: ").arg(card.number), card.title, qsTr(", %1 min").arg(card.minutes)].join("")
+            label: qsTr("Lesson %1: ").arg(card.number) + card.title + qsTr(", %1 min").arg(card.minutes)
             onClicked: module.showLesson(card.lessonID)
 
             Item {
