@@ -1,5 +1,11 @@
 #include "kit/kit.h"
 
+#include <QIconEngine>
+#include <QPainter>
+#include <QPixmap>
+
+#include <algorithm>
+
 namespace {
 
 CRVNKit::Application &installed()
@@ -21,6 +27,28 @@ std::function<void(const QString &)> &helpAction()
     return action;
 }
 
+class IconEngine : public QIconEngine
+{
+public:
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode, QIcon::State) override
+    {
+        const int side = std::min(rect.width(), rect.height());
+        painter->save();
+        painter->translate(QRectF(rect).center() - QPointF(side, side) / 2);
+        CRVNKitHost::paintIcon(*painter, side);
+        painter->restore();
+    }
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap picture(size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        paint(&painter, picture.rect(), mode, state);
+        return picture;
+    }
+    [[nodiscard]] QIconEngine *clone() const override { return new IconEngine; }
+};
+
 } // namespace
 
 namespace CRVNKitHost {
@@ -32,6 +60,15 @@ QString appName()
 CRVNKit::Version appVersion()
 {
     return installed().version;
+}
+void paintIcon(QPainter &painter, double side)
+{
+    if (installed().paintIcon)
+        installed().paintIcon(painter, side);
+}
+QIcon icon()
+{
+    return QIcon(new IconEngine);
 }
 QUrl creditURL()
 {

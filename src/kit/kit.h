@@ -6,9 +6,12 @@
 #include "kit/help.h"
 #include "kit/themes.h"
 
+#include <QIcon>
 #include <QUrl>
 
 #include <functional>
+
+class QPainter;
 
 namespace CRVNKit {
 
@@ -24,6 +27,9 @@ struct Application {
     QString name = QStringLiteral("CRVN");
     Version version = {};
     QUrl website = {}; ///< Of the maker.
+    /// Paints the application's icon into a square of this side from the origin on. Called from
+    /// any thread.
+    std::function<void(QPainter &painter, double side)> paintIcon = {};
     CRVNHelp::Topics helpTopics = {};
     QList<CRVNTheme> extraThemes = {};
 };
@@ -38,6 +44,10 @@ namespace CRVNKitHost {
 /// What kit windows call the program.
 [[nodiscard]] QString appName();
 [[nodiscard]] CRVNKit::Version appVersion();
+/// Paints nothing if the application has no icon.
+void paintIcon(QPainter &painter, double side);
+/// The same for windows: sharp in every size that a desktop asks for.
+[[nodiscard]] QIcon icon();
 
 /// Who made it, in short.
 inline const QString creditName = QStringLiteral("Corvane");

@@ -1,4 +1,4 @@
-// The two things that the program remembers beside the user's data: theme and zoom.
+// What the program remembers beside the user's data: theme, zoom and where its windows stood.
 //
 // One file, "CRVN Halvorin/CRVN Halvorin.conf" in the platform's configuration folder, INI form,
 // written through at each change. A mode that must leave no trace (snapshots, the self-test)

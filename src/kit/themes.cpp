@@ -42,6 +42,16 @@ double RGB::contrast(const RGB &a, const RGB &b)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+RGB CRVNTheme::lightened(const RGB &ink, const RGB &ground, double ratio)
+{
+    constexpr int kSteps = 20;
+    int step = 0;
+    while (step < kSteps
+        && RGB::contrast(RGB::mix(ink, { 1, 1, 1 }, double(step) / kSteps), ground) < ratio)
+        ++step;
+    return RGB::mix(ink, { 1, 1, 1 }, double(step) / kSteps);
+}
+
 QColor RGB::color(double opacity) const
 {
     return QColor::fromRgbF(float(r), float(g), float(b), float(opacity));

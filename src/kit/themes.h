@@ -52,6 +52,10 @@ struct CRVNTheme {
         friend constexpr bool operator==(const RGB &, const RGB &) = default;
     };
 
+    /// `ink` mixed with as little white as it takes for a contrast of `ratio` on `ground`, in steps
+    /// of a twentieth.
+    [[nodiscard]] static RGB lightened(const RGB &ink, const RGB &ground, double ratio);
+
     enum class Family { masculine, feminine, black, gray, extra };
 
     QString id;   ///< What the preference stores.

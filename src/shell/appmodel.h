@@ -28,6 +28,8 @@ class AppModel : public QObject
     Q_PROPERTY(QString screenShortTitle READ screenShortTitle NOTIFY screenChanged)
     Q_PROPERTY(QString screenSymbol READ screenSymbol NOTIFY screenChanged)
     Q_PROPERTY(QString screenComponent READ screenComponent NOTIFY screenChanged)
+    /// Whether the course has a lesson to go on with.
+    Q_PROPERTY(bool canContinue READ canContinue CONSTANT)
     Q_PROPERTY(QString gearQuery READ gearQuery WRITE setGearQuery NOTIFY gearQueryChanged)
     Q_PROPERTY(QString globalQuery READ globalQuery WRITE setGlobalQuery NOTIFY globalQueryChanged)
     Q_PROPERTY(bool showsResults READ showsResults NOTIFY globalQueryChanged)
@@ -130,6 +132,8 @@ public:
 
     /// Opens the lesson to go on with, if the course has any.
     Q_INVOKABLE void continueCourse();
+
+    [[nodiscard]] bool canContinue() const { return nextLesson(nullptr) != nullptr; }
 
     /// The first lesson of the course that isn't finished in `store`; the very first if all are,
     /// so that there is always somewhere to go. nullptr only in a course without lessons. Without

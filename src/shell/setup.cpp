@@ -1,5 +1,6 @@
 #include "shell/setup.h"
 
+#include "camera/appicon.h"
 #include "camera/hvcolors.h"
 #include "content/contentlibrary.h"
 #include "kit/about.h"
@@ -47,6 +48,7 @@ void configure()
         .name = HVInfo::appName,
         .version = { .number = HVInfo::version(), .build = HVInfo::build() },
         .website = HVInfo::website(),
+        .paintIcon = AppIcon::paint,
         // Not the texts themselves: they tell of the course, which isn't read yet.
         .helpTopics = [] { return HVHelp::topics(); },
         .extraThemes = HVThemes::extras(),

@@ -85,9 +85,75 @@ TestCase {
         const titles = [];
         for (let i = 0; i < program.menuBar.count; ++i)
             titles.push(CNUI.withoutMnemonic(program.menuBar.menuAt(i).title));
-        // Others may come; these are there in this order.
-        const known = ["File", "Go", "View", "Theme"];
-        compare(titles.filter(title => known.includes(title)), known);
+        compare(titles, ["File", "Edit", "View", "Go", "Theme", "Help"]);
+    }
+
+    function menu(title) {
+        const bar = program.menuBar;
+        return [...Array(bar.count).keys()].map(i => bar.menuAt(i)).find(menu => CNUI.withoutMnemonic(menu.title) === title);
+    }
+    function rows(title) {
+        const list = menu(title);
+        return [...Array(list.count).keys()].map(i => list.itemAt(i)).filter(row => row.text !== undefined);
+    }
+
+    function test_has_the_entries_of_its_menus_with_their_keys() {
+        const shown = title => rows(title).map(row => [row.Accessible.name, row.keys]);
+        compare(shown("File"), [["New Note", "Ctrl+N"], ["Quit", "Ctrl+Q"]]);
+        compare(shown("View"), [["Zoom In", "Ctrl++"], ["Zoom Out", "Ctrl+-"], ["Actual Size (100%)", "Ctrl+0"], ["Zoom Level", ""],
+                                ["Full Screen", "F11"]]);
+        const help = shown("Help");
+        compare(help[0], ["CRVN Halvorin Help", "Ctrl+Shift+/"]);
+        compare(help.slice(-4).map(row => row[0]),
+                ["Themes and interface zoom", "About Corvane", "About CRVN Halvorin", "Corvane Website"]);
+    }
+
+    function test_starts_a_note_by_key_on_any_screen() {
+        AppModel.screen = HVScreen.Gear;
+        keyClick("n", Qt.ControlModifier);
+        compare(World.noteTarget(), "general general");
+        compare(AppModel.screen, HVScreen.Gear);
+        AppModel.dismissNote();
+    }
+
+    function test_disables_what_can_not_be_done() {
+        compare(rows("Edit").filter(row => row.enabled && row.Accessible.name !== "Paste").length, 0);
+        typeIntoSearch("iso");
+        const usable = () => rows("Edit").filter(row => row.enabled).map(row => row.Accessible.name);
+        verify(usable().includes("Undo"));
+        verify(usable().includes("Select All"));
+        verify(!usable().includes("Cut"));
+        keyClick("a", Qt.ControlModifier);
+        verify(usable().includes("Cut"));
+    }
+
+    function test_edits_by_menu_what_had_the_focus_before_the_menu() {
+        typeIntoSearch("iso");
+        keyClick("e", Qt.AltModifier);
+        tryVerify(() => menu("Edit").opened);
+        rows("Edit").find(row => row.Accessible.name === "Select All").action.trigger();
+        rows("Edit").find(row => row.Accessible.name === "Cut").action.trigger();
+        compare(AppModel.globalQuery, "");
+        keyClick(Qt.Key_Escape);
+        tryVerify(() => !menu("Edit").opened);
+    }
+
+    function test_offers_no_way_on_in_a_course_without_lessons() {
+        verify(rows("Go").find(row => row.Accessible.name === "Continue the Course").enabled);
+        cleanup();
+        World.begin("empty");
+        program = windows.createObject(null);
+        program.requestActivate();
+        tryCompare(program, "active", true);
+        tryVerify(() => program.menuBar.count > 0);
+        verify(!rows("Go").find(row => row.Accessible.name === "Continue the Course").enabled);
+    }
+
+    function test_searches_by_a_slash() {
+        keyClick("/");
+        for (const key of "iso/")
+            keyClick(key);
+        compare(AppModel.globalQuery, "iso/");
     }
 
     function test_offers_seven_themes_and_checks_brass_for_a_user_who_has_never_chosen() {

@@ -3,6 +3,10 @@
 #include "kit/kit.h"
 #include "kit/printing.h"
 
+#include <QImage>
+#include <QPainter>
+#include <QPixmap>
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -74,4 +78,23 @@ TEST_F(About, OpensTheWindowThatHasRegistered)
     CRVNAbout::show();
     CRVNAbout::show();
     EXPECT_EQ(shown, 2);
+}
+
+TEST_F(About, ShowsTheApplicationsIconInTheMiddleOfWhatIsAskedFor)
+{
+    CRVNKit::install({ .paintIcon = [](QPainter &painter, double side) {
+        painter.fillRect(QRectF(0, 0, side, side), Qt::red);
+    } });
+    const QImage wide = CRVNKitHost::icon().pixmap(QSize(64, 32)).toImage();
+    EXPECT_EQ(wide.size(), QSize(64, 32));
+    EXPECT_EQ(wide.pixelColor(16, 0), QColor(Qt::red));
+    EXPECT_EQ(wide.pixelColor(47, 31), QColor(Qt::red));
+    EXPECT_EQ(wide.pixelColor(15, 16).alpha(), 0);
+    EXPECT_EQ(wide.pixelColor(48, 16).alpha(), 0);
+}
+
+TEST_F(About, HasAnEmptyIconOfAnApplicationWithoutOne)
+{
+    CRVNKit::install({});
+    EXPECT_EQ(CRVNKitHost::icon().pixmap(16).toImage().pixelColor(8, 8).alpha(), 0);
 }

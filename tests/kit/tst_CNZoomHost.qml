@@ -180,6 +180,80 @@ TestCase {
         wait(0);
     }
 
+    function test_leaves_a_reader_where_he_has_scrolled_meanwhile() {
+        const item = host(1000, 700, "200%");
+        const surface = Find.scroller(item);
+        mouseWheel(surface, 500, 300, 0, -120);
+        const there = surface.contentY;
+        verify(there > 0);
+        wait(1700); // after the last of the six requests
+        compare(surface.contentY, there);
+        ZoomControl.zoomOut();
+        compare(surface.contentY, 0);
+    }
+
+    function test_zooms_by_the_wheel_with_ctrl() {
+        const item = host(1000, 700, "100%");
+        mouseWheel(item, 500, 300, 0, 120, Qt.NoButton, Qt.ControlModifier);
+        compare(ZoomControl.zoom, 1.15);
+        mouseWheel(item, 500, 300, 0, -120, Qt.NoButton, Qt.ControlModifier);
+        compare(ZoomControl.zoom, 1);
+    }
+
+    function test_zooms_over_a_pane_that_scrolls_and_leaves_the_pane() {
+        const item = host(1000, 700, "200%");
+        mouseWheel(item, 500, 300, 0, -120, Qt.NoButton, Qt.ControlModifier);
+        compare(ZoomControl.zoom, 1.85);
+        compare(Find.scroller(item).contentY, 0);
+    }
+
+    function test_adds_up_the_small_turns_of_a_touchpad() {
+        const item = host(1000, 700, "100%");
+        const turn = angle => mouseWheel(item, 500, 300, 0, angle, Qt.NoButton, Qt.ControlModifier);
+        for (let i = 0; i < 7; ++i)
+            turn(15);
+        compare(ZoomControl.zoom, 1);
+        turn(15);
+        compare(ZoomControl.zoom, 1.15);
+        turn(60);
+        turn(-60);
+        compare(ZoomControl.zoom, 1.15);
+        turn(-60);
+        compare(ZoomControl.zoom, 1);
+    }
+
+    function test_zooms_by_two_fingers() {
+        const item = host(1000, 700, "100%");
+        const touch = touchEvent(item);
+        touch.press(1, item, 450, 300).press(2, item, 550, 300).commit();
+        for (const reach of [52, 60, 80, 100]) {
+            touch.move(1, item, 500 - reach, 300).move(2, item, 500 + reach, 300).commit();
+        }
+        compare(ZoomControl.zoom, 2);
+        touch.release(1, item, 400, 300).release(2, item, 600, 300).commit();
+    }
+
+    function test_shows_bars_just_where_the_interface_is_larger_data() {
+        const rows = [];
+        for (const zoom of ["85%", "100%", "115%", "130%", "150%", "175%", "200%"]) {
+            for (const size of [[900, 620], [1440, 920], [1920, 1200]])
+                rows.push({ tag: zoom + " in " + size.join(" x "), zoom: zoom, size: size });
+        }
+        return rows;
+    }
+    function test_shows_bars_just_where_the_interface_is_larger(data) {
+        const [width, height] = data.size;
+        const item = host(width, height, data.zoom);
+        item.minSize = Qt.size(1240, 800);
+        const zoom = ZoomControl.zoom;
+        const scaled = Qt.size(Math.max(width / zoom, 1240) * zoom, Math.max(height / zoom, 800) * zoom);
+        const overflows = width + 1 < scaled.width || height + 1 < scaled.height;
+        const shown = bars(item);
+        compare(shown.horizontal || shown.vertical, overflows);
+        compare(shown.horizontal, overflows && scaled.width > width);
+        compare(shown.vertical, overflows && scaled.height > height);
+    }
+
     function test_painted_items_get_the_pixels_that_they_cover() {
         const item = host(1000, 700, "100%");
         const capsule = createTemporaryQmlObject("import Halvorin.Kit; ContinuousRectangle { width: 40; height: 20 }", item.page);

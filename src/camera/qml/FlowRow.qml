@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Halvorin.Kit
 import Halvorin.Camera
 
 /*! Small buttons in a grid, each for an item with the roles `itemID` and `title`; the chosen id
@@ -32,6 +33,7 @@ Grid {
     columns: Math.max(1, Math.floor((root.width + root.spacing) / (metrics.minimumColumnWidth + root.spacing)))
     visible: chips.count > 0
 
+    ArrowKeys {}
     Repeater {
         id: chips
         model: root.model

@@ -23,6 +23,7 @@ Pressable {
     autoExclusive: true
     checked: root.selected
     Accessible.checkable: true
+    Accessible.onToggleAction: root.clicked()
 
     focusPolicy: Qt.TabFocus // a click leaves the keyboard to the display
     horizontalPadding: 12

@@ -25,7 +25,10 @@ Item {
         anchors.fill: parent
         anchors.margins: 12
         spacing: 8
+        Accessible.role: Accessible.List
+        Accessible.name: qsTr("Screens")
 
+        ArrowKeys {}
         Repeater {
             model: ScreenList {}
             delegate: GripButtonStyle {

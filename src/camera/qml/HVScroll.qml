@@ -16,7 +16,7 @@ ScrollSurface {
     contentWidth: width
     contentHeight: column.implicitHeight + 2 * root.padding
     barInk: root.c.glow
-    barVisible: CNUI.animated
+    barVisible: !CNUI.posing
 
     Column {
         id: column

@@ -31,6 +31,10 @@ Row {
         tip: qsTr("Mode dial: %1. Click to turn to the next screen.").arg(AppModel.screenTitle)
         Accessible.name: qsTr("Mode dial, %1").arg(AppModel.screenTitle)
         onClicked: AppModel.step(1)
+        Keys.onUpPressed: AppModel.step(1)
+        Keys.onRightPressed: AppModel.step(1)
+        Keys.onDownPressed: AppModel.step(-1)
+        Keys.onLeftPressed: AppModel.step(-1)
 
         background: Item {
             SoftShadow {

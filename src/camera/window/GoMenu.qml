@@ -45,6 +45,7 @@ CNMenu {
     T.Action {
         text: qsTr("Continue the Course")
         shortcut: "Ctrl+K"
+        enabled: AppModel.canContinue
         onTriggered: AppModel.continueCourse()
     }
 }

@@ -11,11 +11,21 @@ T.ApplicationWindow {
     id: root
 
     title: CNUI.appName
-    width: Geometry.usualWindow.width
-    height: Geometry.usualWindow.height + root.menuBar.height
+    width: memory.size(metrics.usual).width
+    height: memory.size(metrics.usual).height
     minimumWidth: Geometry.minimumWindow.width
     minimumHeight: Geometry.minimumWindow.height + root.menuBar.height
     color: CNUI.theme.bg
+
+    QtObject {
+        id: metrics
+        readonly property size usual: Qt.size(Geometry.usualWindow.width, Geometry.usualWindow.height + root.menuBar.height)
+    }
+    FrameMemory {
+        id: memory
+        name: "main"
+        window: root
+    }
 
     // Other windows may be open; the camera is the program.
     onClosing: Qt.quit()
@@ -53,7 +63,7 @@ T.ApplicationWindow {
         }
     }
     Shortcut {
-        sequence: "Ctrl+F"
+        sequences: ["Ctrl+F", "/"]
         onActivated: camera.focusSearch()
     }
     // Where "+" needs Shift, the key alone is "=".

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Templates as T
 import Halvorin.Kit
+import Halvorin.Shell
 import Halvorin.Window
 
 /*! The menus of the window, and the keys that go with them. */
@@ -8,10 +9,10 @@ Item {
     id: root
 
     required property T.MenuBar bar
-    required property Window window
+    required property T.ApplicationWindow window
 
     Component.onCompleted: {
-        for (const menu of [file, go, view, theme])
+        for (const menu of [file, edit, view, go, theme, help])
             root.bar.addMenu(menu);
     }
 
@@ -19,13 +20,23 @@ Item {
         id: file
         title: qsTr("&File")
         T.Action {
+            text: qsTr("New Note")
+            shortcut: "Ctrl+N"
+            enabled: !AppModel.editsNote
+            onTriggered: AppModel.newNote("general", "general")
+        }
+        CNMenuSeparator {}
+        T.Action {
             text: qsTr("Quit")
             shortcut: "Ctrl+Q"
             onTriggered: root.window.close()
         }
     }
-    GoMenu {
-        id: go
+    CNEditMenu {
+        id: edit
+        editing: TextEditing {
+            window: root.window
+        }
     }
     CNZoomCommands {
         id: view
@@ -35,7 +46,18 @@ Item {
             onTriggered: root.window.visibility = root.window.visibility === Window.FullScreen ? Window.AutomaticVisibility : Window.FullScreen
         }
     }
+    GoMenu {
+        id: go
+    }
     CRVNThemeCommands {
         id: theme
+    }
+    CRVNHelpCommands {
+        id: help
+    }
+    // The menu's own key means the question mark, which not every keyboard has on the slash.
+    Shortcut {
+        sequence: "F1"
+        onActivated: CNUI.showHelp()
     }
 }

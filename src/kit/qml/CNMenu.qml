@@ -2,15 +2,18 @@ import QtQuick
 import QtQuick.Templates as T
 import Halvorin.Kit
 
-/*! A menu. */
+/*! A menu. It lives in the window's overlay, outside the magnified interface, and so magnifies
+    itself. */
 T.Menu {
     id: root
 
-    implicitWidth: Math.max(200, list.widest + leftPadding + rightPadding)
+    readonly property real zoom: ZoomControl.zoom
+
+    implicitWidth: Math.max(200 * root.zoom, list.widest + leftPadding + rightPadding)
     implicitHeight: list.contentHeight + topPadding + bottomPadding
     margins: 4
-    padding: 5
-    overlap: 2
+    padding: 5 * root.zoom
+    overlap: 2 * root.zoom
     // The menu bar's mnemonics and Escape need the focus.
     focus: true
 
@@ -36,13 +39,13 @@ T.Menu {
         SoftShadow {
             anchors.fill: parent
             anchors.topMargin: 4
-            radius: 10
-            blur: 14
+            radius: 10 * root.zoom
+            blur: 14 * root.zoom
             color: Metal.partShadow
         }
         ContinuousRectangle {
             anchors.fill: parent
-            radius: 10
+            radius: 10 * root.zoom
             fillFrom: CNUI.theme.panelTop
             fillTo: CNUI.theme.panelBottom
             strokeWidth: 1

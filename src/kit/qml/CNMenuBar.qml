@@ -16,7 +16,9 @@ T.MenuBar {
 
         implicitWidth: title.implicitWidth + 20
         implicitHeight: 28
+        Accessible.role: Accessible.MenuItem
         Accessible.name: title.text
+        Accessible.onPressAction: item.triggered()
 
         contentItem: MuteHvText {
             id: title

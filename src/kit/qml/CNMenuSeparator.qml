@@ -5,9 +5,9 @@ import Halvorin.Kit
 /*! A line between groups of a menu. */
 T.MenuSeparator {
     implicitWidth: 100
-    implicitHeight: 9
+    implicitHeight: 9 * ZoomControl.zoom
     contentItem: Item {
-        implicitHeight: 9
+        implicitHeight: 9 * ZoomControl.zoom
         Rectangle {
             anchors.verticalCenter: parent.verticalCenter
             width: parent.width

@@ -23,6 +23,7 @@ Item {
 
     Component.onCompleted: ZoomControl.scrollHome(surface)
 
+    ZoomGestures {}
     ScrollSurface {
         id: surface
         anchors.fill: parent

@@ -22,7 +22,14 @@ T.AbstractButton {
 
     Accessible.role: Accessible.Button
     Accessible.name: root.label !== "" ? root.label : root.tip
-    Accessible.description: root.tip
+    // Qt 6.4 tells nobody that an item is disabled. Who presses it for somebody is told that it has
+    // been done, and nothing has.
+    Accessible.description: {
+        if (!root.enabled)
+            return qsTr("Not available now");
+        return root.tip === root.Accessible.name ? "" : root.tip;
+    }
+    Accessible.onPressAction: if (root.enabled) root.clicked()
 
     ButtonBehavior {
         showsRing: root.visualFocus

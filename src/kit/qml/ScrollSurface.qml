@@ -9,6 +9,8 @@ Flickable {
 
     property color barInk: CNUI.theme.text
     property bool barVisible: true
+    /*! Counts what the reader himself has moved: who scrolls isn't thrown back. */
+    property int handMoves: 0
 
     function scrollTo(x: real, y: real): void {
         behavior.scrollTo(x, y);
@@ -23,6 +25,8 @@ Flickable {
     flickableDirection: Flickable.AutoFlickIfNeeded
     clip: true
 
+    onMovementStarted: ++root.handMoves
+
     onContentWidthChanged: stayInside()
     onContentHeightChanged: stayInside()
     onWidthChanged: stayInside()
@@ -32,10 +36,12 @@ Flickable {
         id: behavior
     }
     T.ScrollBar.vertical: ThinScrollBar {
+        onPressedChanged: if (pressed) ++root.handMoves
         ink: root.barInk
         policy: root.barVisible && root.contentHeight > root.height ? T.ScrollBar.AsNeeded : T.ScrollBar.AlwaysOff
     }
     T.ScrollBar.horizontal: ThinScrollBar {
+        onPressedChanged: if (pressed) ++root.handMoves
         ink: root.barInk
         policy: root.barVisible && root.contentWidth > root.width ? T.ScrollBar.AsNeeded : T.ScrollBar.AlwaysOff
     }

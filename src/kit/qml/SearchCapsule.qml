@@ -9,6 +9,8 @@ Item {
 
     required property string prompt
     required property string text
+    /*! What a search has found, for who can't see the list. */
+    property string outcome: ""
     property real spacing: 6
     property color ink: CNUI.theme.text
     property color dimInk: CNUI.theme.dim
@@ -66,12 +68,15 @@ Item {
         font: Type.field
         onTextEdited: root.edited(field.text)
         Accessible.name: root.prompt
+        Accessible.description: root.outcome
+        Accessible.searchEdit: true
         Keys.onEscapePressed: event => {
             event.accepted = field.text !== "";
             if (event.accepted)
                 root.edited("");
         }
 
+        TextMenu {}
         MuteHvText {
             anchors.fill: parent
             visible: field.text === "" && field.preeditText === ""

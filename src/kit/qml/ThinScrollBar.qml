@@ -8,6 +8,20 @@ T.ScrollBar {
 
     property color ink: CNUI.theme.text
 
+    // What assistive technology reads and sets: percents of the way.
+    readonly property real minimumValue: 0
+    readonly property real maximumValue: 100
+    property real value: root.size < 1 ? Math.round(100 * root.position / (1 - root.size)) : 0
+    onValueChanged: {
+        const now = 100 * root.position / (1 - root.size);
+        if (root.size < 1 && Math.abs(root.value - now) >= 1)
+            root.position = root.value / 100 * (1 - root.size);
+    }
+    Accessible.role: Accessible.ScrollBar
+    Accessible.name: root.orientation === Qt.Vertical ? qsTr("Vertical scroll bar") : qsTr("Horizontal scroll bar")
+    Accessible.onIncreaseAction: root.increase()
+    Accessible.onDecreaseAction: root.decrease()
+
     implicitWidth: 10
     implicitHeight: 10
     padding: 2

@@ -1,14 +1,31 @@
 #include "cnui.h"
 
+#include "kit/about.h"
 #include "kit/fonts.h"
 #include "kit/gradients.h"
 #include "kit/kit.h"
+#include "kit/motion.h"
+#include "kit/opener.h"
 #include "kit/platformwords.h"
 #include "kit/preferences.h"
 #include "kit/snapshotmode.h"
 
 #include <QKeySequence>
 #include <QRegularExpression>
+
+namespace {
+
+using RGB = CRVNTheme::RGB;
+
+// What the program asks of words that aren't body text.
+constexpr double kContrast = 4.5;
+
+RGB rgb(const QColor &color)
+{
+    return { color.redF(), color.greenF(), color.blueF() };
+}
+
+} // namespace
 
 CNUI::CNUI(QObject *parent)
     : QObject(parent)
@@ -18,6 +35,25 @@ CNUI::CNUI(QObject *parent)
         m_theme = CRVNKitHost::theme();
         Q_EMIT themeChanged();
     });
+    connect(&Motion::shared(), &Motion::changed, this, &CNUI::animatedChanged);
+}
+
+QColor CNUI::linkInk() const
+{
+    return CRVNTheme::lightened(rgb(m_theme.accent), rgb(m_theme.panelTop), kContrast).color();
+}
+
+QColor CNUI::selection() const
+{
+    return RGB::mix(rgb(m_theme.panelTop), rgb(m_theme.accent), 0.8).color();
+}
+
+QColor CNUI::selectionInk() const
+{
+    const RGB text = rgb(m_theme.text);
+    const RGB black(0, 0, 0);
+    const RGB ground = rgb(selection());
+    return (RGB::contrast(text, ground) >= kContrast ? text : black).color();
 }
 
 QString CNUI::appName() const
@@ -25,9 +61,54 @@ QString CNUI::appName() const
     return CRVNKitHost::appName();
 }
 
+bool CNUI::isPosing() const
+{
+    return SnapshotMode::isEnabled();
+}
+
 bool CNUI::animated() const
 {
-    return !SnapshotMode::isEnabled();
+    return !isPosing() && !Motion::shared().isReduced();
+}
+
+QString CNUI::creditName() const
+{
+    return CRVNKitHost::creditName;
+}
+
+QString CNUI::version() const
+{
+    return CRVNAbout::version();
+}
+
+QStringList CNUI::aboutLines() const
+{
+    return CRVNAbout::extraLines();
+}
+
+QString CNUI::copyrightLine() const
+{
+    return CRVNAbout::copyrightLine();
+}
+
+QString CNUI::website() const
+{
+    return CRVNKitHost::creditURL().toString();
+}
+
+void CNUI::openAddress(const QString &address) const
+{
+    Opener::open(address);
+}
+
+void CNUI::showHelp(const QString &topicID) const
+{
+    CRVNKitHost::showHelp(topicID);
+}
+
+void CNUI::showAbout() const
+{
+    CRVNAbout::show();
 }
 
 QFont CNUI::cnFont(qreal size, int weight, qreal tracking) const

@@ -74,17 +74,36 @@ bool ScrollBehavior::scrollTo(qreal x, qreal y)
     return after != before;
 }
 
+bool ScrollBehavior::moveTo(qreal x, qreal y)
+{
+    const bool moved = scrollTo(x, y);
+    if (moved)
+        pane()->setProperty("handMoves", pane()->property("handMoves").toInt() + 1);
+    return moved;
+}
+
 void ScrollBehavior::reveal(QQuickItem *item)
+{
+    reveal(*item, QRectF(0, 0, item->width(), item->height()));
+}
+
+void ScrollBehavior::revealAround(const QQuickItem &item, const QRectF &area)
+{
+    if (ScrollBehavior *behavior = around(&item))
+        behavior->reveal(item, area);
+}
+
+void ScrollBehavior::reveal(const QQuickItem &item, const QRectF &part)
 {
     const auto *content = pane()->property("contentItem").value<QQuickItem *>();
     const QRectF area
-        = item->mapRectToItem(content, QRectF(0, 0, item->width(), item->height()))
+        = item.mapRectToItem(content, part)
               .marginsAdded({ kFocusMargin, kFocusMargin, kFocusMargin, kFocusMargin });
     const QPointF now = position();
-    scrollTo(shown(area.left(), area.right(), now.x(), pane()->width()),
+    moveTo(shown(area.left(), area.right(), now.x(), pane()->width()),
         shown(area.top(), area.bottom(), now.y(), pane()->height()));
     if (ScrollBehavior *outer = around(pane()))
-        outer->reveal(item);
+        outer->reveal(item, part);
 }
 
 ScrollBehavior *ScrollBehavior::around(const QQuickItem *item)
@@ -171,7 +190,7 @@ bool ScrollBehavior::eventFilter(QObject *watched, QEvent *event)
 bool ScrollBehavior::follow(const QWheelEvent &wheel)
 {
     const QPointF to = position() - distance(wheel);
-    return scrollTo(to.x(), to.y());
+    return moveTo(to.x(), to.y());
 }
 
 bool ScrollBehavior::follow(const QKeyEvent &key)
@@ -180,21 +199,21 @@ bool ScrollBehavior::follow(const QKeyEvent &key)
     const qreal page = pane()->height() - kKeyStep;
     switch (key.key()) {
     case Qt::Key_Up:
-        return scrollTo(now.x(), now.y() - kKeyStep);
+        return moveTo(now.x(), now.y() - kKeyStep);
     case Qt::Key_Down:
-        return scrollTo(now.x(), now.y() + kKeyStep);
+        return moveTo(now.x(), now.y() + kKeyStep);
     case Qt::Key_Left:
-        return scrollTo(now.x() - kKeyStep, now.y());
+        return moveTo(now.x() - kKeyStep, now.y());
     case Qt::Key_Right:
-        return scrollTo(now.x() + kKeyStep, now.y());
+        return moveTo(now.x() + kKeyStep, now.y());
     case Qt::Key_PageUp:
-        return scrollTo(now.x(), now.y() - page);
+        return moveTo(now.x(), now.y() - page);
     case Qt::Key_PageDown:
-        return scrollTo(now.x(), now.y() + page);
+        return moveTo(now.x(), now.y() + page);
     case Qt::Key_Home:
-        return scrollTo(now.x(), 0);
+        return moveTo(now.x(), 0);
     case Qt::Key_End:
-        return scrollTo(now.x(), std::numeric_limits<qreal>::max());
+        return moveTo(now.x(), std::numeric_limits<qreal>::max());
     default:
         return false;
     }

@@ -36,6 +36,9 @@ public:
     /// margin around it. Of an item that is too large the beginning is shown.
     Q_INVOKABLE void reveal(QQuickItem *item);
 
+    /// The same for a part of an item, in the panes around it. `area` is in the item's coordinates.
+    static void revealAround(const QQuickItem &item, const QRectF &area);
+
     /// Does what the wheel asks for in the innermost pane around `item` that can follow. Returns
     /// whether one could.
     static bool scrollAround(const QQuickItem *item, const QWheelEvent &wheel);
@@ -52,8 +55,11 @@ private:
     [[nodiscard]] static ScrollBehavior *around(const QQuickItem *item);
     [[nodiscard]] QPointF position() const;
 
+    void reveal(const QQuickItem &item, const QRectF &part);
     void followWindow(QQuickWindow *window);
     void followFocus();
+    /// scrollTo() for the reader himself.
+    bool moveTo(qreal x, qreal y);
     bool follow(const QWheelEvent &wheel);
     bool follow(const QKeyEvent &key);
 

@@ -14,6 +14,9 @@ class Type : public QObject
     QML_SINGLETON
     Q_PROPERTY(QFont figure MEMBER figure CONSTANT)
     Q_PROPERTY(QFont title MEMBER title CONSTANT)
+    Q_PROPERTY(QFont applicationName MEMBER applicationName CONSTANT)
+    Q_PROPERTY(QFont pageTitle MEMBER pageTitle CONSTANT)
+    Q_PROPERTY(QFont heading MEMBER heading CONSTANT)
     Q_PROPERTY(QFont dialogTitle MEMBER dialogTitle CONSTANT)
     Q_PROPERTY(QFont cardTitle MEMBER cardTitle CONSTANT)
     Q_PROPERTY(QFont entryTitle MEMBER entryTitle CONSTANT)
@@ -28,6 +31,11 @@ class Type : public QObject
     Q_PROPERTY(QFont tip MEMBER tip CONSTANT)
     Q_PROPERTY(QFont detail MEMBER detail CONSTANT)
     Q_PROPERTY(QFont strongDetail MEMBER strongDetail CONSTANT)
+    Q_PROPERTY(QFont version MEMBER version CONSTANT)
+    Q_PROPERTY(QFont smallPrint MEMBER smallPrint CONSTANT)
+    Q_PROPERTY(QFont link MEMBER link CONSTANT)
+    Q_PROPERTY(QFont topic MEMBER topic CONSTANT)
+    Q_PROPERTY(QFont currentTopic MEMBER currentTopic CONSTANT)
     Q_PROPERTY(QFont field MEMBER field CONSTANT)
     Q_PROPERTY(QFont button MEMBER button CONSTANT)
     Q_PROPERTY(QFont compactButton MEMBER compactButton CONSTANT)
@@ -46,8 +54,11 @@ public:
 
     // Headings, from the largest down.
     const QFont figure = Fonts::rounded(30, QFont::ExtraBold);
+    const QFont applicationName = Fonts::rounded(24, QFont::ExtraBold);
+    const QFont pageTitle = Fonts::rounded(22, QFont::ExtraBold);
     const QFont title = Fonts::rounded(21, QFont::ExtraBold, 1.4);
     const QFont dialogTitle = Fonts::rounded(16, QFont::ExtraBold);
+    const QFont heading = Fonts::rounded(15, QFont::Bold);
     const QFont cardTitle = Fonts::rounded(14, QFont::ExtraBold);
     const QFont entryTitle = Fonts::rounded(13.5, QFont::DemiBold);
     const QFont groupCaption = Fonts::rounded(11, QFont::ExtraBold, 1.5);
@@ -59,12 +70,18 @@ public:
     const QFont message = Fonts::rounded(13);
     const QFont subtitle = Fonts::rounded(12.5, QFont::Medium);
     const QFont text = Fonts::rounded(12.5);
+    const QFont version = Fonts::rounded(12, QFont::DemiBold);
     const QFont summary = Fonts::rounded(11.5);
     const QFont tip = Fonts::rounded(11.5, QFont::Medium);
     const QFont detail = Fonts::rounded(11);
     const QFont strongDetail = Fonts::rounded(11, QFont::DemiBold);
 
+    const QFont smallPrint = Fonts::rounded(10.5);
+
     // Controls.
+    const QFont link = Fonts::rounded(13, QFont::DemiBold);
+    const QFont topic = Fonts::rounded(13, QFont::Medium);
+    const QFont currentTopic = Fonts::rounded(13, QFont::Bold);
     const QFont field = Fonts::rounded(13, QFont::Medium);
     const QFont button = Fonts::rounded(12.5, QFont::Bold);
     const QFont compactButton = Fonts::rounded(11.5, QFont::Bold);

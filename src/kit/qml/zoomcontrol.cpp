@@ -58,8 +58,10 @@ bool ZoomControl::scrolls(QSizeF offered, qreal zoom, QSizeF minimum) const
 
 void ZoomControl::scrollHome(QQuickItem *flickable)
 {
-    const auto home = [flickable = QPointer(flickable)] {
-        if (!flickable)
+    const auto moves
+        = [](const QQuickItem *item) { return item ? item->property("handMoves").toInt() : 0; };
+    const auto home = [flickable = QPointer(flickable), moves, before = moves(flickable)] {
+        if (!flickable || moves(flickable) != before)
             return;
         flickable->setProperty("contentX", 0);
         flickable->setProperty("contentY", 0);

@@ -30,7 +30,8 @@ public:
     Q_INVOKABLE [[nodiscard]] bool scrolls(QSizeF offered, qreal zoom, QSizeF minimum) const;
 
     /// Brings a flickable back to its origin: now, on the next turn of the event loop, and four
-    /// times while the layout settles. Requests are not canceled by later ones.
+    /// times while the layout settles. Requests are not canceled by later ones, but they end where
+    /// the reader has scrolled meanwhile, which the flickable counts as `handMoves`.
     Q_INVOKABLE void scrollHome(QQuickItem *flickable);
 
 Q_SIGNALS:

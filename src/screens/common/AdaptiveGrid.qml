@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Halvorin.Kit
 
 /*! A grid with as many equal columns as fit. The cells of a row are as high as its highest. Rows
     and columns are `spacing` apart. (columnSpacing is no help: unset, it reads as −1.) */
@@ -23,6 +24,7 @@ Grid {
 
     columns: Math.max(1, Math.floor((root.width + root.spacing) / (root.minimumColumnWidth + root.spacing)))
 
+    ArrowKeys {}
     Repeater {
         id: cells
         onItemAdded: (index, item) => {

@@ -32,6 +32,7 @@ Item {
         size: root.size
     }
     ReadingKeys {
+        id: keys
         text: words
     }
     Repeater {
@@ -71,21 +72,23 @@ Item {
         width: root.width
         readOnly: true
         selectByMouse: true
-        persistentSelection: false
-        activeFocusOnTab: false
+        selectByKeyboard: true
+        persistentSelection: true
+        activeFocusOnTab: true
+        cursorVisible: keys.caret
         textFormat: TextEdit.PlainText
         wrapMode: TextEdit.Wrap
         font: CNUI.cnFont(root.size)
         color: root.c.oledText
         selectionColor: root.c.selection
         selectedTextColor: "white"
-        onActiveFocusChanged: if (!activeFocus) deselect()
         Accessible.role: Accessible.Document
         Accessible.name: root.title
         Accessible.readOnly: true
         Accessible.multiLine: true
         Accessible.selectableText: true
 
+        TextMenu {}
         // The text as it is read out, piece by piece. The pieces show nothing themselves.
         Repeater {
             model: flow.blocks

@@ -1,6 +1,9 @@
 #include "shell/launch/halvorinapp.h"
 
 #include "kit/fonts.h"
+#include "kit/kit.h"
+#include "kit/motion.h"
+#include "kit/qml/kitwindows.h"
 #include "selfcheck/diagramsheet.h"
 #include "selfcheck/snapshot.h"
 #include "shell/info.h"
@@ -98,7 +101,6 @@ void HalvorinApp::start(int &argc, char **argv)
     SceneGraph::prepare();
     m_application = std::make_unique<QGuiApplication>(argc, argv);
     QCoreApplication::setApplicationName(HVInfo::appName);
-    QGuiApplication::setApplicationDisplayName(HVInfo::appName);
     QCoreApplication::setApplicationVersion(HVInfo::version());
     QGuiApplication::setDesktopFileName(u"crvn-halvorin"_s);
 
@@ -115,6 +117,7 @@ void HalvorinApp::start(int &argc, char **argv)
     HVSetup::configure();
     m_engine = std::make_unique<QQmlEngine>();
     m_engine->addImportPath(u":/qt/qml"_s);
+    m_kitWindows = std::make_unique<KitWindows>(*m_engine);
     QObject::connect(m_engine.get(), &QQmlEngine::quit, m_application.get(),
         &QCoreApplication::quit, Qt::QueuedConnection);
     QQmlComponent component(m_engine.get(),
@@ -135,6 +138,8 @@ void HalvorinApp::start(int &argc, char **argv)
         qFatal("The window could not be built: %s", qPrintable(component.errorString()));
     const auto afterFirstFrame = [this] {
         tidyEnvironment();
+        QGuiApplication::setWindowIcon(CRVNKitHost::icon());
+        Motion::shared().followDesktop();
         m_indexing = HVSetup::indexCourse();
     };
     QObject::connect(m_window.get(), &QQuickWindow::frameSwapped, m_application.get(),
@@ -147,6 +152,7 @@ HalvorinApp::~HalvorinApp()
     if (m_indexing)
         m_indexing->wait();
     // Screens read the store while they are taken down; it closes after them.
+    m_kitWindows.reset();
     m_window.reset();
     m_engine.reset();
     UserStore::setShared(nullptr);

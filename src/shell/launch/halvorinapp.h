@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 
+class KitWindows;
 class SingleInstance;
 
 /// The application. Its construction decides, from the arguments alone and in a fixed order, what
@@ -45,6 +46,7 @@ private:
     std::unique_ptr<QGuiApplication> m_application;
     std::unique_ptr<SingleInstance> m_instance;
     std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<KitWindows> m_kitWindows;
     std::unique_ptr<QQuickWindow> m_window;
     std::unique_ptr<QThread> m_indexing; ///< Set with the first frame.
 };

@@ -183,7 +183,32 @@ TestCase {
         first.selectAll();
         compare(first.selectedText, "One.");
         second.forceActiveFocus();
-        compare(first.selectedText, "");
+        tryCompare(first, "selectedText", "");
+    }
+
+    function test_is_read_and_selected_by_keyboard() {
+        const text = words(show("One line.\nAnd another."));
+        text.forceActiveFocus(Qt.TabFocusReason);
+        verify(text.cursorVisible);
+        keyClick(Qt.Key_Home, Qt.ControlModifier);
+        keyClick(Qt.Key_Right);
+        keyClick(Qt.Key_Right, Qt.ShiftModifier);
+        keyClick(Qt.Key_Right, Qt.ShiftModifier);
+        compare(text.selectedText, "ne");
+        keySequence(StandardKey.Copy);
+        compare(World.copiedText(), "ne");
+    }
+
+    function test_has_no_caret_after_a_click_and_leaves_the_arrows_to_the_pane() {
+        const text = words(show("One line.\nAnd another."));
+        mouseClick(text, 20, 10);
+        verify(text.activeFocus);
+        verify(!text.cursorVisible);
+        const place = text.cursorPosition;
+        keyClick(Qt.Key_Down);
+        compare(text.cursorPosition, place);
+        keyClick(Qt.Key_Right, Qt.ShiftModifier);
+        compare(text.selectedText.length, 1);
     }
 
     function test_can_not_be_edited() {

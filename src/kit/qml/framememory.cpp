@@ -1,0 +1,89 @@
+#include "framememory.h"
+
+#include "kit/preferences.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+using namespace std::chrono_literals;
+
+FrameMemory::FrameMemory(QObject *parent)
+    : QObject(parent)
+{
+    // Some desktops tell of the new area before they tell that the window is maximized.
+    m_settled.setInterval(200ms);
+    m_settled.setSingleShot(true);
+    m_settled.callOnTimeout(this, &FrameMemory::note);
+}
+
+FrameMemory::~FrameMemory() = default;
+
+QString FrameMemory::key() const
+{
+    return u"crvn.frame." + m_name;
+}
+
+std::optional<WindowFrame> FrameMemory::stored() const
+{
+    return WindowFrame::fromText(Preferences::shared().text(key()));
+}
+
+WindowPlace FrameMemory::place(const WindowFrame &frame) const
+{
+    QList<QRect> screens;
+    for (const QScreen *screen : QGuiApplication::screens())
+        screens.append(screen->availableGeometry());
+    return placeOn(screens, frame.area, m_window ? m_window->minimumSize() : QSize());
+}
+
+bool FrameMemory::isPlaced() const
+{
+    const std::optional<WindowFrame> frame = stored();
+    return frame && place(*frame).position;
+}
+
+QSizeF FrameMemory::size(QSizeF usual) const
+{
+    const std::optional<WindowFrame> frame = stored();
+    return frame ? place(*frame).size.toSizeF() : usual;
+}
+
+void FrameMemory::componentComplete()
+{
+    if (!m_window)
+        return;
+    if (const std::optional<WindowFrame> frame = stored()) {
+        m_area = frame->area;
+        if (const std::optional<QPoint> position = place(*frame).position)
+            m_window->setPosition(*position);
+        if (frame->maximized)
+            m_window->setWindowStates(Qt::WindowMaximized);
+    }
+    const auto settle = [this] { m_settled.start(); };
+    connect(m_window, &QWindow::xChanged, this, settle);
+    connect(m_window, &QWindow::yChanged, this, settle);
+    connect(m_window, &QWindow::widthChanged, this, settle);
+    connect(m_window, &QWindow::heightChanged, this, settle);
+    connect(m_window, &QWindow::visibleChanged, this, [this](bool visible) {
+        if (!visible)
+            store();
+    });
+    connect(qGuiApp, &QCoreApplication::aboutToQuit, this, &FrameMemory::store);
+}
+
+void FrameMemory::note()
+{
+    if (m_window->windowStates() == Qt::WindowNoState)
+        m_area = m_window->geometry();
+}
+
+void FrameMemory::store()
+{
+    if (m_settled.isActive())
+        note();
+    if (m_area.isEmpty())
+        return;
+    const WindowFrame frame{ .area = m_area,
+        .maximized = m_window->windowStates().testFlag(Qt::WindowMaximized) };
+    Preferences::shared().set(key(), frame.text());
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "kit/windowframe.h"
+
+#include <QQmlParserStatus>
+#include <QQuickWindow>
+#include <QTimer>
+#include <QtQml/qqml.h>
+
+/// Remembers size and place of a window from one run to the next, in the preference
+/// "crvn.frame.<name>". Stands in the window:
+///
+///     FrameMemory { id: memory; name: "main"; window: root }
+///     width: memory.size(usual).width
+///
+/// The size has to be asked for, so that nothing is laid out in the usual one first; the place is
+/// taken before the window is shown.
+class FrameMemory : public QObject, public QQmlParserStatus
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_INTERFACES(QQmlParserStatus)
+    Q_PROPERTY(QString name MEMBER m_name REQUIRED)
+    Q_PROPERTY(QQuickWindow *window MEMBER m_window REQUIRED)
+    /// Whether the window has the place of an earlier run.
+    Q_PROPERTY(bool placed READ isPlaced CONSTANT)
+public:
+    explicit FrameMemory(QObject *parent = nullptr);
+    ~FrameMemory() override;
+
+    [[nodiscard]] bool isPlaced() const;
+
+    /// The remembered size, as far as the screens have room for it, or else `usual`.
+    Q_INVOKABLE [[nodiscard]] QSizeF size(QSizeF usual) const;
+
+protected:
+    void classBegin() override { }
+    void componentComplete() override;
+
+private:
+    [[nodiscard]] QString key() const;
+    [[nodiscard]] std::optional<WindowFrame> stored() const;
+    [[nodiscard]] WindowPlace place(const WindowFrame &frame) const;
+    void note();
+    void store();
+
+    QString m_name;
+    QQuickWindow *m_window = nullptr;
+    QRect m_area; ///< The last one in which the window filled no screen.
+    QTimer m_settled;
+};
