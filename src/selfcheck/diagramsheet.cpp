@@ -3,18 +3,14 @@
 #include "camera/hvcolors.h"
 #include "diagrams/diagrampainter.h"
 #include "kit/fonts.h"
-#include "selfcheck/offscreen.h"
-#include "shell/setup.h"
+#include "selfcheck/sheetfile.h"
 
 #include <QImage>
 #include <QPainter>
-#include <QTextStream>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr auto kOption = "--diagram-sheet"_L1;
 
 // All in pixels. Of the longest callouts, those on the right need the most room.
 constexpr int kColumns = 6;
@@ -60,23 +56,5 @@ QImage paintSheet()
 
 std::optional<int> HVDiagramSheet::handle(const QStringList &arguments)
 {
-    const qsizetype option = arguments.indexOf(kOption);
-    if (option < 0)
-        return std::nullopt;
-    if (option + 1 == arguments.size()) {
-        QTextStream(stderr) << "Usage: halvorin "_L1 << kOption << " FILE"_L1 << Qt::endl;
-        return 2;
-    }
-    const QString path = arguments.at(option + 1);
-
-    const OffscreenApplication application;
-    HVSetup::configure();
-    const QImage sheet = paintSheet();
-    if (!sheet.save(path, "PNG")) {
-        QTextStream(stderr) << "could not write "_L1 << path << Qt::endl;
-        return 1;
-    }
-    QTextStream(stdout) << "wrote "_L1 << path << ' ' << sheet.width() << 'x' << sheet.height()
-                        << Qt::endl;
-    return 0;
+    return handleSheet(arguments, "--diagram-sheet"_L1, paintSheet);
 }

@@ -149,6 +149,49 @@ TestCase {
         verify(!rows("Go").find(row => row.Accessible.name === "Continue the Course").enabled);
     }
 
+    // What the Tab key reaches, from the search field round to it again.
+    function tabRound(key) {
+        typeIntoSearch("");
+        const names = [];
+        const first = program.activeFocusItem;
+        do {
+            names.push(program.activeFocusItem.Accessible.name);
+            verify(names[names.length - 1] !== "");
+            keyClick(key);
+        } while (program.activeFocusItem !== first && names.length < 200);
+        return names;
+    }
+
+    function test_tab_goes_as_the_eye_does() {
+        const names = tabRound(Qt.Key_Tab);
+        const screens = World.screens().map(screen => screen.title);
+        const plate = ["Search lessons, gear, history, videos…", "Previous screen (Ctrl+[)", "Mode dial, Campus",
+                       "Next screen (Ctrl+])", "Continue the course"];
+        compare(names.slice(0, plate.length + screens.length), [...plate, ...screens]);
+        const display = names.slice(plate.length + screens.length);
+        compare(display.slice(0, 3), ["Start lesson 1", "Exposure Lab", "Encyclopedia"]);
+        verify(display.length > 3);
+        compare(tabRound(Qt.Key_Backtab).reverse().slice(0, -1), names.slice(1));
+    }
+
+    function test_arrows_walk_the_rail_and_turn_the_dial() {
+        const rail = Find.button(camera(), "Course");
+        rail.forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_Down);
+        compare(program.activeFocusItem.Accessible.name, "Exposure Lab");
+        keyClick(Qt.Key_Return);
+        compare(AppModel.screen, HVScreen.Exposure);
+        keyClick(Qt.Key_End);
+        compare(program.activeFocusItem.Accessible.name, "My Notes & Progress");
+        const dial = Find.first(camera(), item => Find.isButton(item) && item.Accessible.name.startsWith("Mode dial"));
+        dial.forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_Right);
+        compare(AppModel.screen, HVScreen.Lens);
+        keyClick(Qt.Key_Left);
+        keyClick(Qt.Key_Left);
+        compare(AppModel.screen, HVScreen.Course);
+    }
+
     function test_searches_by_a_slash() {
         keyClick("/");
         for (const key of "iso/")

@@ -39,7 +39,7 @@ TEST(Lightened, IsNoLighterThanItHasToBe)
 
 TEST(Lightened, EndsAtWhite)
 {
-    EXPECT_EQ(CRVNTheme::lightened({ 0, 0, 0 }, { 0.9, 0.9, 0.9 }, 4.5), RGB(1, 1, 1));
+    EXPECT_EQ(CRVNTheme::lightened({ 0.2, 0.2, 0.2 }, { 0.6, 0.6, 0.6 }, 4.5), RGB(1, 1, 1));
 }
 
 TEST_F(KitColors, AreReadInEveryTheme)

@@ -100,8 +100,8 @@ TEST_F(FrameMemoryTest, OpensMaximizedWhatWasAndKnowsWhatThatGoesBackTo)
 {
     Preferences::shared().set(kKey, u"50 60 420 310 maximized"_s);
     const auto window = open();
-    EXPECT_TRUE(window->windowStates().testFlag(Qt::WindowMaximized));
     window->show();
+    EXPECT_TRUE(window->windowStates().testFlag(Qt::WindowMaximized));
     window->close();
     EXPECT_EQ(Preferences::shared().text(kKey), u"50 60 420 310 maximized"_s);
 }

@@ -11,6 +11,8 @@ T.Menu {
 
     implicitWidth: Math.max(200 * root.zoom, list.widest + leftPadding + rightPadding)
     implicitHeight: list.contentHeight + topPadding + bottomPadding
+    // A long one scrolls, and leaves the menu bar to be seen.
+    height: Math.min(implicitHeight, (T.Overlay.overlay?.height ?? Infinity) - 40)
     margins: 4
     padding: 5 * root.zoom
     overlap: 2 * root.zoom

@@ -35,9 +35,6 @@ FocusScope {
     HelpTopicList {
         id: topics
     }
-    HelpPage {
-        id: page
-    }
 
     CNPanel {
         id: contents
@@ -132,30 +129,14 @@ FocusScope {
                 width: parent.width + metrics.barRoom
                 height: parent.height
                 contentWidth: width
-                contentHeight: text.height
+                contentHeight: page.height
                 activeFocusOnTab: true
                 Accessible.role: Accessible.Document
                 Accessible.name: page.title
 
-                Column {
-                    id: text
+                HelpText {
+                    id: page
                     width: Math.min(parent.width - metrics.barRoom, 680)
-                    spacing: 6
-
-                    HvText {
-                        width: parent.width
-                        bottomPadding: 6
-                        text: page.title
-                        font: Type.pageTitle
-                        wrapMode: Text.Wrap
-                        Accessible.role: Accessible.Heading
-                    }
-                    Repeater {
-                        model: page
-                        delegate: HelpBlock {
-                            width: text.width
-                        }
-                    }
                 }
             }
             ContinuousRectangle {

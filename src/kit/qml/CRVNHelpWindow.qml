@@ -11,12 +11,20 @@ CNWindow {
 
     title: qsTr("%1 Help").arg(CNUI.appName)
     placed: memory.placed
-    width: memory.size(Qt.size(860, 600)).width
-    height: memory.size(Qt.size(860, 600)).height
+    width: memory.size(metrics.usual).width
+    height: memory.size(metrics.usual).height
     minSize: Qt.size(680, 440)
     minimumWidth: 480
     minimumHeight: 320
 
+    QtObject {
+        id: metrics
+        // What is read magnified needs a larger window, as far as there is room.
+        readonly property size usual: Qt.size(Math.min(860 * metrics.zoomAtFirst, Screen.desktopAvailableWidth - 40),
+                                              Math.min(600 * metrics.zoomAtFirst, Screen.desktopAvailableHeight - 60))
+        property real zoomAtFirst: 1
+        Component.onCompleted: metrics.zoomAtFirst = ZoomControl.zoom
+    }
     FrameMemory {
         id: memory
         name: "CRVNHelpWindow"

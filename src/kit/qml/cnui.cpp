@@ -50,10 +50,14 @@ QColor CNUI::selection() const
 
 QColor CNUI::selectionInk() const
 {
+    const RGB ground = rgb(selection());
+    const auto onGround = [&ground](const RGB &ink) { return RGB::contrast(ink, ground); };
     const RGB text = rgb(m_theme.text);
     const RGB black(0, 0, 0);
-    const RGB ground = rgb(selection());
-    return (RGB::contrast(text, ground) >= kContrast ? text : black).color();
+    const RGB white(1, 1, 1);
+    if (onGround(text) >= kContrast)
+        return text.color();
+    return (onGround(white) >= onGround(black) ? white : black).color();
 }
 
 QString CNUI::appName() const

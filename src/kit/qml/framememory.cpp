@@ -5,6 +5,8 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include <utility>
+
 using namespace std::chrono_literals;
 
 FrameMemory::FrameMemory(QObject *parent)
@@ -56,8 +58,7 @@ void FrameMemory::componentComplete()
         m_area = frame->area;
         if (const std::optional<QPoint> position = place(*frame).position)
             m_window->setPosition(*position);
-        if (frame->maximized)
-            m_window->setWindowStates(Qt::WindowMaximized);
+        m_maximizes = frame->maximized;
     }
     const auto settle = [this] { m_settled.start(); };
     connect(m_window, &QWindow::xChanged, this, settle);
@@ -67,6 +68,8 @@ void FrameMemory::componentComplete()
     connect(m_window, &QWindow::visibleChanged, this, [this](bool visible) {
         if (!visible)
             store();
+        else if (std::exchange(m_maximizes, false))
+            m_window->setWindowStates(m_window->windowStates() | Qt::WindowMaximized);
     });
     connect(qGuiApp, &QCoreApplication::aboutToQuit, this, &FrameMemory::store);
 }
@@ -79,7 +82,7 @@ void FrameMemory::note()
 
 void FrameMemory::store()
 {
-    if (m_settled.isActive())
+    if (m_settled.isActive() || m_area.isEmpty())
         note();
     if (m_area.isEmpty())
         return;

@@ -46,6 +46,7 @@ private:
 
     QString m_name;
     QQuickWindow *m_window = nullptr;
-    QRect m_area; ///< The last one in which the window filled no screen.
+    QRect m_area;             ///< The last one in which the window filled no screen.
+    bool m_maximizes = false; ///< With its first show, which would undo it before.
     QTimer m_settled;
 };

@@ -1,19 +1,21 @@
 import QtQuick
 import Halvorin.Kit
-import Halvorin.Camera
 
-/*! A help topic on a panel. */
+/*! The help's credits, as far as they fit. */
 CRVNThemeRoot {
     CNPanel {
         anchors.fill: parent
         anchors.margins: 16
+        padding: 20
 
-        PlaceholderScreen {
+        Item {
             anchors.fill: parent
-            c: CameraPalette.current
-            title: qsTr("Help")
-            line: qsTr("The help topics are still being written.")
-            symbol: "questionmark.circle"
+            clip: true
+
+            HelpText {
+                width: parent.width
+                topicID: "credits"
+            }
         }
     }
 }

@@ -6,6 +6,7 @@
 #include "kit/qml/kitwindows.h"
 #include "selfcheck/diagramsheet.h"
 #include "selfcheck/snapshot.h"
+#include "selfcheck/themesheet.h"
 #include "shell/info.h"
 #include "shell/launch/scenegraph.h"
 #include "shell/launch/singleinstance.h"
@@ -35,6 +36,7 @@ Opens the camera. Options:
 
 For developers:
   --diagram-sheet FILE   paint all gear drawings side by side to a PNG file and end
+  --theme-sheet FILE     paint Campus in all themes side by side to a PNG file and end
 
 Environment:
   HV_CONTENT             folder of the course files
@@ -52,6 +54,8 @@ std::optional<int> statusOfModes(const QStringList &arguments)
     if (const std::optional<int> status = HVSnapshot::handle(arguments))
         return status;
     if (const std::optional<int> status = HVDiagramSheet::handle(arguments))
+        return status;
+    if (const std::optional<int> status = HVThemeSheet::handle(arguments))
         return status;
     if (arguments.contains("--help"_L1)) {
         print(kHelp);
