@@ -1,0 +1,111 @@
+import QtQuick
+import Halvorin.Camera
+import Halvorin.Simulator
+
+/*! The controls of the simulated camera and of what is in front of it. It needs a width. */
+OLEDCard {
+    id: root
+
+    required property ExposureControls controls
+
+    padding: 14
+
+    QtObject {
+        id: metrics
+        readonly property real pickerWidth: 268
+    }
+
+    Column {
+        width: parent.width
+        spacing: 18
+
+        TitledPicker {
+            width: parent.width
+            c: root.c
+            title: qsTr("Light")
+            model: LightList {}
+            widestPicker: metrics.pickerWidth
+            chosenID: root.controls.lightID
+            onChosen: optionID => root.controls.lightID = optionID
+        }
+        Grid {
+            anchors.horizontalCenter: parent.horizontalCenter
+            columns: 2
+            columnSpacing: 26
+            rowSpacing: 10
+
+            StepDial {
+                c: root.c
+                title: qsTr("Aperture")
+                scaleOfStops: LabScales.aperture
+                value: root.controls.aperture
+                onMoved: value => root.controls.aperture = value
+            }
+            StepDial {
+                c: root.c
+                title: qsTr("Shutter")
+                scaleOfStops: LabScales.shutter
+                value: root.controls.shutter
+                onMoved: value => root.controls.shutter = value
+            }
+            StepDial {
+                c: root.c
+                title: qsTr("ISO")
+                scaleOfStops: LabScales.iso
+                value: root.controls.iso
+                onMoved: value => root.controls.iso = value
+            }
+            StepDial {
+                c: root.c
+                title: qsTr("Focal length")
+                scaleOfStops: LabScales.focalLength
+                value: root.controls.focal
+                onMoved: value => root.controls.focal = value
+            }
+        }
+        TitledPicker {
+            width: parent.width
+            c: root.c
+            title: qsTr("Sensor / film format")
+            model: FormatList {}
+            widestPicker: metrics.pickerWidth
+            chosenID: root.controls.formatID
+            onChosen: optionID => root.controls.formatID = optionID
+        }
+        Column {
+            width: parent.width
+            spacing: 10
+
+            LabeledSlider {
+                width: parent.width
+                c: root.c
+                title: qsTr("Subject distance (focus)")
+                unit: "m"
+                from: 0.5
+                to: 20
+                value: root.controls.subjectDistance
+                onMoved: value => root.controls.subjectDistance = value
+            }
+            LabeledSlider {
+                width: parent.width
+                c: root.c
+                title: qsTr("Background distance")
+                unit: "m"
+                from: root.controls.nearestBackground
+                to: 200
+                value: root.controls.backgroundDistance
+                onMoved: value => root.controls.backgroundDistance = value
+            }
+            LabeledSlider {
+                width: parent.width
+                c: root.c
+                title: qsTr("Cyclist speed")
+                unit: "m/s"
+                from: 0
+                to: 15
+                value: root.controls.moverSpeed
+                onMoved: value => root.controls.moverSpeed = value
+            }
+        }
+    }
+}
