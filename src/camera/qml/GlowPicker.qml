@@ -29,9 +29,16 @@ T.ComboBox {
         readonly property real windowMargin: 8
     }
 
-    // What isn't offered shows nothing. The rows can be searched only when all is in place.
-    Component.onCompleted: root.currentIndex = Qt.binding(() => root.indexOfValue(root.chosenID))
-    onActivated: index => root.chosen(root.valueAt(index))
+    // Shows what its owner has chosen and nothing of what isn't offered. The rows can be searched
+    // only when all is in place, and whoever activates one takes the binding's place.
+    function follow(): void {
+        root.currentIndex = Qt.binding(() => root.indexOfValue(root.chosenID));
+    }
+    Component.onCompleted: root.follow()
+    onActivated: index => {
+        root.chosen(root.valueAt(index));
+        root.follow();
+    }
 
     textRole: "title"
     valueRole: "optionID"
