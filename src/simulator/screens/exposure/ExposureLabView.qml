@@ -47,7 +47,7 @@ HVScroll {
             ExposureDials {
                 id: dials
                 width: metrics.controlsWidth
-                height: Math.max(implicitHeight, picture.implicitHeight)
+                fill: picture.implicitHeight
                 c: root.c
                 controls: controls
             }

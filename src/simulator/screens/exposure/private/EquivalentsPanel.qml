@@ -44,7 +44,7 @@ OLEDCard {
                 }
 
                 width: parent?.width ?? 0
-                height: 22
+                height: 21
                 horizontalPadding: 8
                 cornerRadius: 6
                 focusInk: root.c.oledText

@@ -2,24 +2,29 @@ import QtQuick
 import Halvorin.Camera
 import Halvorin.Simulator
 
-/*! The controls of the simulated camera and of what is in front of it. It needs a width. */
+/*! The controls of the simulated camera and of what is in front of it, spread over a height of
+    `fill` if they don't need more. It needs a width. */
 OLEDCard {
     id: root
 
     required property ExposureControls controls
+    property real fill: 0
 
     padding: 14
 
     QtObject {
         id: metrics
         readonly property real pickerWidth: 268
+        readonly property real groups: light.height + dials.height + format.height + distances.height
+        readonly property real gap: Math.max(18, (root.fill - 2 * root.padding - metrics.groups) / 3)
     }
 
     Column {
         width: parent.width
-        spacing: 18
+        spacing: metrics.gap
 
         TitledPicker {
+            id: light
             width: parent.width
             c: root.c
             title: qsTr("Light")
@@ -29,6 +34,7 @@ OLEDCard {
             onChosen: optionID => root.controls.lightID = optionID
         }
         Grid {
+            id: dials
             anchors.horizontalCenter: parent.horizontalCenter
             columns: 2
             columnSpacing: 26
@@ -64,6 +70,7 @@ OLEDCard {
             }
         }
         TitledPicker {
+            id: format
             width: parent.width
             c: root.c
             title: qsTr("Sensor / film format")
@@ -73,6 +80,7 @@ OLEDCard {
             onChosen: optionID => root.controls.formatID = optionID
         }
         Column {
+            id: distances
             width: parent.width
             spacing: 10
 

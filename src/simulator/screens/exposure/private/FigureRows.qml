@@ -12,7 +12,7 @@ Column {
     required property FigureList model
     required property hvColors c
 
-    spacing: 7
+    spacing: 9
 
     Repeater {
         model: root.model
