@@ -108,7 +108,7 @@ T.ComboBox {
                 anchors.verticalCenter: parent.verticalCenter
                 text: row.title
                 color: row.optionID === root.chosenID ? root.c.glow : root.c.oledText
-                font: CNUI.cnFont(Type.tip.pointSize * 1.06 * metrics.zoom, Type.tip.weight)
+                font: CNUI.cnFont(Type.row.pointSize * metrics.zoom, Font.Medium)
                 elide: Text.ElideRight
             }
         }

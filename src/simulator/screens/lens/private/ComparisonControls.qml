@@ -45,6 +45,7 @@ OLEDCard {
                     checkable: true
                     checked: lens.chosen
                     Accessible.checkable: true
+                    Accessible.onToggleAction: lens.clicked()
                     onClicked: {
                         root.comparison.toggle(lens.aperture);
                         // The click has turned it over, even where two must remain.

@@ -24,6 +24,18 @@ QAccessibleInterface *find(QAccessibleInterface *from, QAccessible::Role role)
     return nullptr;
 }
 
+// The same with a name.
+QAccessibleInterface *find(QAccessibleInterface *from, QAccessible::Role role, const QString &name)
+{
+    if (!from || (from->role() == role && from->text(QAccessible::Name) == name))
+        return from;
+    for (int i = 0; i < from->childCount(); ++i) {
+        if (QAccessibleInterface *found = find(from->child(i), role, name))
+            return found;
+    }
+    return nullptr;
+}
+
 class Shown
 {
 public:
@@ -42,6 +54,10 @@ public:
     [[nodiscard]] QAccessibleInterface *thing(QAccessible::Role role) const
     {
         return find(QAccessible::queryAccessibleInterface(m_window.get()), role);
+    }
+    [[nodiscard]] QAccessibleInterface *thing(QAccessible::Role role, const QString &name) const
+    {
+        return find(QAccessible::queryAccessibleInterface(m_window.get()), role, name);
     }
 
 private:
@@ -115,4 +131,29 @@ TEST(LabeledSlider, ReadsItsValueWithTheUnit)
     slider->valueInterface()->setCurrentValue(100);
     EXPECT_EQ(slider->valueInterface()->currentValue().toDouble(), 20);
     EXPECT_EQ(slider->text(QAccessible::Description), u"20 m"_s);
+}
+
+TEST(LensLab, TakesALensInWhenAssistiveTechnologyTogglesIt)
+{
+    const Shown shown("LensLabView { anchors.fill: parent; c: CameraPalette.current }");
+    QAccessibleInterface *lens = shown.thing(QAccessible::CheckBox, u"f/1.2"_s);
+    ASSERT_TRUE(lens && lens->actionInterface());
+    EXPECT_TRUE(lens->state().checkable);
+    EXPECT_FALSE(lens->state().checked);
+    EXPECT_FALSE(shown.thing(QAccessible::Graphic, u"Picture at f/1.2"_s));
+    lens->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(lens->state().checked);
+    EXPECT_TRUE(shown.thing(QAccessible::Graphic, u"Picture at f/1.2"_s));
+}
+
+TEST(ExposureLab, NamesItsPictureAndItsMeter)
+{
+    const Shown shown("ExposureLabView { anchors.fill: parent; c: CameraPalette.current }");
+    QAccessibleInterface *picture = shown.thing(QAccessible::Graphic);
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(picture->text(QAccessible::Name), u"Preview picture"_s);
+    EXPECT_EQ(picture->text(QAccessible::Description),
+        u"1.0 stop under, background blur 3.8 pixels, streak 5 pixels"_s);
+    EXPECT_TRUE(shown.thing(QAccessible::Indicator, u"Light meter: −1.0 stop"_s));
+    EXPECT_TRUE(shown.thing(QAccessible::ComboBox, u"Light"_s));
 }
