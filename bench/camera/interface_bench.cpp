@@ -6,6 +6,7 @@
 // that shows it; `busiest_ms` is the longest stretch between two rests of the event loop in the
 // whole run. Full-size course, 1440 × 948 window, offscreen, software scene graph.
 
+#include "support/busyclock.h"
 #include "support/fullcourse.h"
 
 #include "content/contentlibrary.h"
@@ -17,7 +18,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QAbstractEventDispatcher>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTemporaryDir>
@@ -28,31 +28,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 HalvorinApp *g_app = nullptr;
-
-/// Measures the longest stretch of work between two rests of the event loop.
-class BusyClock : public QObject
-{
-public:
-    BusyClock()
-    {
-        QAbstractEventDispatcher *dispatcher = QAbstractEventDispatcher::instance();
-        connect(dispatcher, &QAbstractEventDispatcher::awake, this, [this] { m_clock.start(); });
-        connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this, [this] { note(); });
-    }
-    void begin() { m_clock.start(); }
-    [[nodiscard]] double longest() const { return m_longest; }
-
-private:
-    void note()
-    {
-        if (m_clock.isValid())
-            m_longest = std::max(m_longest, double(m_clock.nsecsElapsed()) * 1e-6);
-        m_clock.invalidate();
-    }
-
-    QElapsedTimer m_clock;
-    double m_longest = 0;
-};
 
 // Lets everything that is still under way come to rest: animations, delayed calls.
 void settle()

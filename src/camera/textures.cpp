@@ -162,4 +162,16 @@ void paintKnurl(QPainter &painter, QSizeF size)
     painter.restore();
 }
 
+QBrush turnedSheen(const QPointF &center, double strength)
+{
+    QConicalGradient sheen(center, 60);
+    for (const double fan : { 0.0, 0.5 }) {
+        sheen.setColorAt(fan, gray(1, 0));
+        sheen.setColorAt(fan + 0.13, gray(1, strength));
+        sheen.setColorAt(fan + 0.26, gray(1, 0));
+    }
+    sheen.setColorAt(1, gray(1, 0));
+    return sheen;
+}
+
 } // namespace Textures

@@ -2,9 +2,11 @@
 // so that they are the same at every run.
 #pragma once
 
+#include <QBrush>
 #include <QColor>
 #include <QImage>
 #include <QPainterPath>
+#include <QPointF>
 #include <QSizeF>
 
 class QPainter;
@@ -24,5 +26,9 @@ inline constexpr int leatherTileSide = 160;
 
 /// Paints knurled metal over an area of `size` at the origin: a dark groove with a faint lit edge.
 void paintKnurl(QPainter &painter, QSizeF size);
+
+/// The light on turned metal: two bright fans around `center`, opposite each other. `strength` is
+/// their opacity, 0 to 1.
+[[nodiscard]] QBrush turnedSheen(const QPointF &center, double strength);
 
 } // namespace Textures

@@ -10,6 +10,7 @@
 #include "selfcheck/shots.h"
 #include "shell/appmodel.h"
 #include "shell/setup.h"
+#include "simulator/previewrenderer.h"
 #include "store/hverror.h"
 #include "store/userstore.h"
 
@@ -152,6 +153,7 @@ std::optional<int> HVSnapshot::handle(const QStringList &arguments)
     const OffscreenApplication application;
     Preferences::shared().keepInMemory();
     SnapshotMode::enable();
+    PreviewRenderer::setSynchronous(true);
     HVSetup::configure();
 
     try {

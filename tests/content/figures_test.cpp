@@ -1,15 +1,5 @@
 // The figures that lessons print, against the arithmetic of the simulated camera.
-//
-// figures.tsv holds one figure a line: the lesson's id, a passage of its body, a calculation and
-// the figure as the passage prints it, with tabs between them. A calculation is a name of the table
-// below and its arguments, such as "near focal=50 aperture=8 format=ff focus=3 unit=m":
-//   focal                      mm
-//   focus, object, distance    m
-//   speed                      m/s
-//   shutter                    s; a fraction such as 1/125 is allowed
-//   light                      EV at ISO 100, or the id of a light level
-//   format, side               the id of a sensor format; width (unless told), height or diagonal
-//   unit                       m (unless told), cm or mm of a length; s of a time; % of a share
+#include "content/figuretable.h"
 #include "content/installedcourse.h"
 
 #include "content/contentlibrary.h"
@@ -18,8 +8,6 @@
 #include "simulator/simsettings.h"
 #include "support/qtprinters.h"
 
-#include <QFile>
-#include <QHash>
 #include <QMap>
 
 #include <gtest/gtest.h>
@@ -34,71 +22,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double kMillimeters = 1000; // in a meter
-
-std::optional<double> number(QString text)
-{
-    const QStringList parts = text.remove(u',').replace(u'−', u'-').split(u'/');
-    bool isNumber = false;
-    const double value = parts[0].toDouble(&isNumber);
-    if (parts.size() == 1)
-        return isNumber ? std::optional(value) : std::nullopt;
-    bool isDivisor = false;
-    const double divisor = parts[1].toDouble(&isDivisor);
-    return isNumber && isDivisor && parts.size() == 2 ? std::optional(value / divisor)
-                                                      : std::nullopt;
-}
-
-// The arguments of one calculation. Asking for one that isn't there spoils the result.
-class Arguments
-{
-public:
-    explicit Arguments(const QStringList &words)
-    {
-        for (const QString &word : words)
-            m_texts.insert(word.section(u'=', 0, 0), word.section(u'=', 1));
-    }
-
-    [[nodiscard]] QString text(const QString &name) const { return m_texts.value(name); }
-
-    [[nodiscard]] double operator[](const QString &name) const
-    {
-        return number(m_texts.value(name)).value_or(std::nan(""));
-    }
-
-    [[nodiscard]] double light() const
-    {
-        const QString id = text(u"light"_s);
-        const LightLevel &level = LightLevel::named(id);
-        return level.id == id ? level.ev : (*this)[u"light"_s];
-    }
-
-    [[nodiscard]] SensorFormat format() const
-    {
-        const SensorFormat &format = SensorFormat::named(text(u"format"_s));
-        EXPECT_EQ(format.id, text(u"format"_s));
-        return format;
-    }
-
-    [[nodiscard]] double side() const
-    {
-        const QString name = text(u"side"_s);
-        if (name == u"height")
-            return format().height;
-        if (name == u"diagonal")
-            return format().diagonal();
-        EXPECT_TRUE(name.isEmpty() || name == u"width") << name.toStdString();
-        return format().width;
-    }
-
-    [[nodiscard]] Exposure::Lens lens() const { return { (*this)[u"focal"_s], aperture() }; }
-    [[nodiscard]] double aperture() const { return (*this)[u"aperture"_s]; }
-    [[nodiscard]] double shutter() const { return (*this)[u"shutter"_s]; }
-    [[nodiscard]] double iso() const { return (*this)[u"iso"_s]; }
-    [[nodiscard]] double focal() const { return (*this)[u"focal"_s]; }
-
-private:
-    QHash<QString, QString> m_texts;
-};
 
 Exposure::Triple triple(const Arguments &a)
 {
@@ -262,30 +185,19 @@ TEST(Figures, NeedEveryArgumentOfTheirCalculation)
 TEST(Figures, StandInTheirLessonsAndAreWhatTheCameraComputes)
 {
     const ContentLibrary course(installedCourse());
-    QFile table(QStringLiteral(HV_TEST_FIGURES));
-    ASSERT_TRUE(table.open(QIODevice::ReadOnly));
-    const QStringList lines = QString::fromUtf8(table.readAll()).split(u'\n');
-    int figures = 0;
-    for (qsizetype i = 0; i < lines.size(); ++i) {
-        if (lines[i].trimmed().isEmpty() || lines[i].startsWith(u'#'))
-            continue;
-        SCOPED_TRACE(u"figures.tsv:%1: %2"_s.arg(i + 1).arg(lines[i]).toStdString());
-        ++figures;
-        const QStringList columns = lines[i].split(u'\t');
-        if (columns.size() != 4) {
-            ADD_FAILURE() << "A figure has four columns.";
-            continue;
-        }
-        const QString &passage = columns[1];
-        const QString &printed = columns[3];
-        const Lesson *lesson = course.lesson(columns[0]);
+    const QList<FigureLine> figures = figureLines(QStringLiteral(HV_TEST_FIGURES));
+    for (const FigureLine &figure : figures) {
+        SCOPED_TRACE(figure.where.toStdString());
+        const Lesson *lesson = course.lesson(figure.lesson);
         EXPECT_TRUE(lesson) << "There is no such lesson.";
-        EXPECT_TRUE(!lesson || lesson->body.contains(passage)) << "The lesson has no such passage.";
-        EXPECT_TRUE(passage.contains(printed)) << "The figure doesn't stand in the passage.";
-        const std::optional<double> result = calculated(columns[2]);
+        EXPECT_TRUE(!lesson || lesson->body.contains(figure.passage))
+            << "The lesson has no such passage.";
+        EXPECT_TRUE(figure.passage.contains(figure.printed))
+            << "The figure doesn't stand in the passage.";
+        const std::optional<double> result = calculated(figure.calculation);
         EXPECT_TRUE(result) << "There is no such calculation.";
-        EXPECT_TRUE(!result || prints(printed, *result))
+        EXPECT_TRUE(!result || prints(figure.printed, *result))
             << "The camera computes " << result.value_or(std::nan(""));
     }
-    EXPECT_GT(figures, 0);
+    EXPECT_FALSE(figures.isEmpty());
 }

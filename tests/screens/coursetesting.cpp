@@ -136,6 +136,7 @@ void resetModel()
     model.setGlobalQuery({});
     model.setNoteDraft({});
     model.setMessage({});
+    model.setSim({});
 }
 
 } // namespace

@@ -204,6 +204,19 @@ TEST_F(Snapshot, TheSameScreenLooksDifferentInAnotherTheme)
     EXPECT_FALSE(brass == cobalt);
 }
 
+TEST_F(Snapshot, TheLabsShowTheirPhotographs)
+{
+    ASSERT_EQ(plain().status, 0);
+    // The subject's face in the Exposure Lab, overexposed, and in the first thumbnail of the Lens
+    // Lab: skin, redder than blue. Black stands where a photograph is missing.
+    for (const auto &[name, place] : { std::pair{ u"04-exposure-lab"_s, QPoint(720, 400) },
+             { u"05-lens-lab"_s, QPoint(485, 785) } }) {
+        const QColor skin = plainPicture(name).pixelColor(place);
+        EXPECT_GT(skin.red(), 120) << qPrintable(name);
+        EXPECT_GT(skin.red(), skin.blue()) << qPrintable(name);
+    }
+}
+
 TEST_F(Snapshot, ASearchCoversTheScreenUnderIt)
 {
     ASSERT_EQ(plain().status, 0);

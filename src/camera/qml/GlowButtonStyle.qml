@@ -10,6 +10,8 @@ Pressable {
     property bool prominent: false
     property bool compact: false
     property string symbol: ""
+    /*! Where the words stand in a button that is wider than they are. */
+    property int alignment: Text.AlignLeft
 
     QtObject {
         id: metrics
@@ -44,6 +46,7 @@ Pressable {
             anchors.verticalCenter: parent.verticalCenter
             text: root.label
             elide: Text.ElideRight
+            horizontalAlignment: root.alignment
             color: metrics.ink
             font: metrics.lettering
         }

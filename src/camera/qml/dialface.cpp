@@ -4,27 +4,9 @@
 #include "kit/continuouspath.h"
 #include "kit/gradients.h"
 
-#include <QConicalGradient>
 #include <QPainter>
 
 using namespace Painting;
-
-namespace {
-
-// The light on turned metal: two bright fans, opposite each other.
-QBrush turnedSheen(const QPointF &center, double strength)
-{
-    QConicalGradient sheen(center, 60);
-    for (const double fan : { 0.0, 0.5 }) {
-        sheen.setColorAt(fan, gray(1, 0));
-        sheen.setColorAt(fan + 0.13, gray(1, strength));
-        sheen.setColorAt(fan + 0.26, gray(1, 0));
-    }
-    sheen.setColorAt(1, gray(1, 0));
-    return sheen;
-}
-
-} // namespace
 
 void DialFace::paint(QPainter *painter)
 {
@@ -49,12 +31,12 @@ void DialFace::paint(QPainter *painter)
     Textures::paintKnurl(*painter, area.size());
     painter->restore();
 
-    painter->setBrush(turnedSheen(area.center(), 0.22));
+    painter->setBrush(Textures::turnedSheen(area.center(), 0.22));
     painter->drawPath(edge);
 
     painter->setBrush(verticalBrush(inner, gray(0.22), {}, gray(0.1)));
     painter->drawEllipse(inner);
-    painter->setBrush(turnedSheen(area.center(), 0.12));
+    painter->setBrush(Textures::turnedSheen(area.center(), 0.12));
     painter->drawEllipse(inner);
 
     painter->setBrush(Qt::NoBrush);

@@ -49,6 +49,10 @@ class Type : public QObject
     Q_PROPERTY(QFont badge MEMBER badge CONSTANT)
     Q_PROPERTY(QFont number MEMBER number CONSTANT)
     Q_PROPERTY(QFont count MEMBER count CONSTANT)
+    Q_PROPERTY(QFont dialFigure MEMBER dialFigure CONSTANT)
+    Q_PROPERTY(QFont scaleFigure MEMBER scaleFigure CONSTANT)
+    Q_PROPERTY(QFont rowFigure MEMBER rowFigure CONSTANT)
+    Q_PROPERTY(QFont columnHead MEMBER columnHead CONSTANT)
 public:
     using QObject::QObject;
 
@@ -99,4 +103,10 @@ public:
     // Figures that stand under one another.
     const QFont number = Fonts::monospaced(13, QFont::ExtraBold);
     const QFont count = Fonts::monospaced(11, QFont::Bold);
+    const QFont dialFigure = Fonts::monospaced(12, QFont::ExtraBold);
+    const QFont scaleFigure = Fonts::monospaced(10, QFont::Bold);
+
+    // Tables.
+    const QFont rowFigure = Fonts::rounded(15, QFont::ExtraBold);
+    const QFont columnHead = Fonts::rounded(10.5, QFont::DemiBold);
 };

@@ -1,5 +1,0 @@
-import Halvorin.Camera
-
-/*! The Exposure Lab. */
-UnbuiltScreen {
-}
