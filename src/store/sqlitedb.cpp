@@ -274,6 +274,14 @@ void SQLiteDB::transaction(const std::function<void()> &body)
     }
 }
 
+bool SQLiteDB::hasMoved() const
+{
+    int moved = 0; // Stays so where SQLite doesn't know of such a thing.
+    if (m_handle)
+        sqlite3_file_control(m_handle.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    return moved != 0;
+}
+
 int SQLiteDB::changes() const
 {
     return m_handle ? sqlite3_changes(m_handle.get()) : 0;

@@ -155,6 +155,10 @@ public:
     /// The number of rows that the last INSERT, UPDATE or DELETE changed.
     [[nodiscard]] int changes() const;
 
+    /// Whether another file stands under the path by now, or none: what is written from here on
+    /// would be gone with the connection. Only where a file that is open can be moved or deleted.
+    [[nodiscard]] bool hasMoved() const;
+
     /// SQLite's message about the last call, or "closed".
     [[nodiscard]] QString lastError() const;
 
