@@ -14,8 +14,10 @@ class Type : public QObject
     QML_SINGLETON
     Q_PROPERTY(QFont figure MEMBER figure CONSTANT)
     Q_PROPERTY(QFont title MEMBER title CONSTANT)
+    Q_PROPERTY(QFont sheetTitle MEMBER sheetTitle CONSTANT)
     Q_PROPERTY(QFont dialogTitle MEMBER dialogTitle CONSTANT)
     Q_PROPERTY(QFont cardTitle MEMBER cardTitle CONSTANT)
+    Q_PROPERTY(QFont question MEMBER question CONSTANT)
     Q_PROPERTY(QFont entryTitle MEMBER entryTitle CONSTANT)
     Q_PROPERTY(QFont groupCaption MEMBER groupCaption CONSTANT)
     Q_PROPERTY(QFont sectionCaption MEMBER sectionCaption CONSTANT)
@@ -28,6 +30,9 @@ class Type : public QObject
     Q_PROPERTY(QFont tip MEMBER tip CONSTANT)
     Q_PROPERTY(QFont detail MEMBER detail CONSTANT)
     Q_PROPERTY(QFont strongDetail MEMBER strongDetail CONSTANT)
+    Q_PROPERTY(QFont rowTitle MEMBER rowTitle CONSTANT)
+    Q_PROPERTY(QFont noteTarget MEMBER noteTarget CONSTANT)
+    Q_PROPERTY(QFont date MEMBER date CONSTANT)
     Q_PROPERTY(QFont field MEMBER field CONSTANT)
     Q_PROPERTY(QFont button MEMBER button CONSTANT)
     Q_PROPERTY(QFont compactButton MEMBER compactButton CONSTANT)
@@ -47,8 +52,10 @@ public:
     // Headings, from the largest down.
     const QFont figure = Fonts::rounded(30, QFont::ExtraBold);
     const QFont title = Fonts::rounded(21, QFont::ExtraBold, 1.4);
+    const QFont sheetTitle = Fonts::rounded(18, QFont::ExtraBold);
     const QFont dialogTitle = Fonts::rounded(16, QFont::ExtraBold);
     const QFont cardTitle = Fonts::rounded(14, QFont::ExtraBold);
+    const QFont question = Fonts::rounded(14, QFont::Bold);
     const QFont entryTitle = Fonts::rounded(13.5, QFont::DemiBold);
     const QFont groupCaption = Fonts::rounded(11, QFont::ExtraBold, 1.5);
     const QFont sectionCaption = Fonts::rounded(10.5, QFont::ExtraBold, 1.2);
@@ -63,6 +70,9 @@ public:
     const QFont tip = Fonts::rounded(11.5, QFont::Medium);
     const QFont detail = Fonts::rounded(11);
     const QFont strongDetail = Fonts::rounded(11, QFont::DemiBold);
+    const QFont rowTitle = Fonts::rounded(12.5, QFont::DemiBold);
+    const QFont noteTarget = Fonts::rounded(11.5, QFont::Bold);
+    const QFont date = Fonts::rounded(10.5);
 
     // Controls.
     const QFont field = Fonts::rounded(13, QFont::Medium);
