@@ -72,12 +72,14 @@ module: light
 q: What sorts the light?
 right: The hole
 wrong: The wall
+why: One ray for each point gets through.
 
 === QUESTION q2
 module: light
 q: How does the picture stand?
 right: On its head
 wrong: On its feet
+why: Rays cross in the hole.
 )";
 
 constexpr auto kGear = R"(=== GEAR tripod
@@ -136,6 +138,7 @@ void resetModel()
     model.setGlobalQuery({});
     model.setNoteDraft({});
     model.setMessage({});
+    model.setSavePanel({});
 }
 
 } // namespace
