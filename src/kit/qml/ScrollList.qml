@@ -13,17 +13,14 @@ ListView {
     function scrollTo(x: real, y: real): void {
         behavior.scrollTo(x, y);
     }
-    function stayInside(): void {
-        behavior.scrollTo(root.contentX, root.contentY);
-    }
 
     interactive: false
     boundsBehavior: Flickable.StopAtBounds
     clip: true
     cacheBuffer: 400
 
-    onContentHeightChanged: Qt.callLater(root.stayInside)
-    onHeightChanged: Qt.callLater(root.stayInside)
+    onContentHeightChanged: behavior.stayInsideLater()
+    onHeightChanged: behavior.stayInsideLater()
 
     ScrollBehavior {
         id: behavior

@@ -77,6 +77,12 @@ bool ScrollBehavior::scrollTo(qreal x, qreal y)
     return after != before;
 }
 
+void ScrollBehavior::stayInsideLater()
+{
+    QMetaObject::invokeMethod(
+        this, [this] { scrollTo(position().x(), position().y()); }, Qt::QueuedConnection);
+}
+
 void ScrollBehavior::reveal(QQuickItem *item)
 {
     const auto *content = pane()->property("contentItem").value<QQuickItem *>();

@@ -24,8 +24,7 @@ HVScroll {
         taking.check();
         if (!taking.reviewed)
             return;
-        // The score stands at the foot, which the explanations have pushed down.
-        Qt.callLater(() => root.scrollTo(0, root.contentHeight));
+        toFoot.start();
         again.forceActiveFocus();
     }
     function tryAgain(): void {
@@ -39,7 +38,13 @@ HVScroll {
     maximumWidth: 860
     // Another quiz begins at its beginning.
     onModuleIDChanged: root.contentY = 0
+    // The score stands at the foot, which the explanations push down as they are laid out.
+    onContentHeightChanged: if (toFoot.running) root.scrollTo(0, root.contentHeight)
 
+    Timer {
+        id: toFoot
+        interval: 100
+    }
     QuizTaking {
         id: taking
         moduleID: root.moduleID
