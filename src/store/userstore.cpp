@@ -226,21 +226,25 @@ void UserStore::setBookmark(const QString &targetType, const QString &targetID, 
 QList<Note> UserStore::notes(
     const std::optional<QString> &targetType, const std::optional<QString> &targetID) const
 {
-    const QList<SQLRow> found = targetType && targetID
-        ? rows(
-            u"SELECT * FROM notes WHERE target_type = ? AND target_id = ? ORDER BY updated DESC"_s,
-            { targetType, targetID })
-        : rows(u"SELECT * FROM notes ORDER BY updated DESC"_s);
+    const bool isTied = targetType && targetID;
+    const QString sql = isTied
+        ? u"SELECT * FROM notes WHERE target_type = ? AND target_id = ? ORDER BY updated DESC"_s
+        : u"SELECT * FROM notes ORDER BY updated DESC"_s;
+    const QList<SQLValue> arguments
+        = isTied ? QList<SQLValue>{ *targetType, *targetID } : QList<SQLValue>();
 
     QList<Note> notes;
-    notes.reserve(found.size());
-    for (const SQLRow &row : found) {
-        notes.append({ .id = number(row, u"id"_s),
-            .targetType = row.str(u"target_type"_s),
-            .targetID = row.str(u"target_id"_s),
-            .body = row.str(u"body"_s),
-            .created = moment(row, u"created"_s),
-            .updated = moment(row, u"updated"_s) });
+    try {
+        m_db.each(sql, arguments, [&notes](const SQLRow &row) {
+            notes.append({ .id = number(row, u"id"_s),
+                .targetType = row.str(u"target_type"_s),
+                .targetID = row.str(u"target_id"_s),
+                .body = row.str(u"body"_s),
+                .created = moment(row, u"created"_s),
+                .updated = moment(row, u"updated"_s) });
+        });
+    } catch (const HVError &) {
+        return {}; // as in rows()
     }
     return notes;
 }

@@ -45,34 +45,40 @@ void Keepsakes::read()
     Q_EMIT bookmarkCountChanged();
 }
 
+QString Keepsakes::title(Row row) const
+{
+    switch (row.kind) {
+    case BookmarkRow:
+        return targetTitle(
+            m_bookmarks.at(row.place).targetType, m_bookmarks.at(row.place).targetID);
+    case CaptionRow:
+        return tr("ALL NOTES (%1)").arg(m_notes.size());
+    case NoteRow:
+        return targetTitle(m_notes.at(row.place).targetType, m_notes.at(row.place).targetID);
+    }
+    Q_UNREACHABLE();
+}
+
 void Keepsakes::show()
 {
-    QList<Row> rows(m_bookmarks.begin(), m_bookmarks.end());
+    QList<Row> rows;
     rows.reserve(m_bookmarks.size() + 1 + m_notes.size());
-    rows.append(Caption{ .notes = m_notes.size() });
-    for (const Note &note : m_notes)
-        rows.append(note);
+    for (qsizetype i = 0; i < m_bookmarks.size(); ++i)
+        rows.append({ BookmarkRow, i });
+    rows.append({ CaptionRow, 0 });
+    for (qsizetype i = 0; i < m_notes.size(); ++i)
+        rows.append({ NoteRow, i });
 
+    const auto ofNote = [this](const auto &text) {
+        return [this, text](const Row &row) {
+            return row.kind == NoteRow ? QString(text(m_notes.at(row.place))) : QString();
+        };
+    };
     showRows<Row>(rows,
         {
-            { "kind", [](const Row &row) { return int(row.index()); } },
-            { "title",
-                [](const Row &row) {
-                    if (const auto *bookmark = std::get_if<Bookmark>(&row))
-                        return targetTitle(bookmark->targetType, bookmark->targetID);
-                    if (const auto *note = std::get_if<Note>(&row))
-                        return targetTitle(note->targetType, note->targetID);
-                    return tr("ALL NOTES (%1)").arg(std::get<Caption>(row).notes);
-                } },
-            { "body",
-                [](const Row &row) {
-                    const auto *note = std::get_if<Note>(&row);
-                    return note ? note->body : QString();
-                } },
-            { "changed",
-                [](const Row &row) {
-                    const auto *note = std::get_if<Note>(&row);
-                    return note ? changedText(*note) : QString();
-                } },
+            { "kind", [](const Row &row) { return int(row.kind); } },
+            { "title", [this](const Row &row) { return title(row); } },
+            { "body", ofNote([](const Note &note) { return note.body; }) },
+            { "changed", ofNote(&changedText) },
         });
 }

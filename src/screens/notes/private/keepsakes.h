@@ -5,8 +5,6 @@
 
 #include <QtQml/qqml.h>
 
-#include <variant>
-
 /// All that the user has kept, as one long list: the bookmarks, the newest first, a caption, and
 /// the notes, the last changed first. Roles `kind`, `title`, `body` and `changed`; a bookmark has a
 /// title, and the caption is one.
@@ -40,11 +38,13 @@ Q_SIGNALS:
     void bookmarkCountChanged();
 
 private:
-    struct Caption {
-        qsizetype notes = 0;
+    /// A row's kind and its place among those of its kind.
+    struct Row {
+        Kind kind = CaptionRow;
+        qsizetype place = 0;
     };
-    using Row = std::variant<Bookmark, Caption, Note>;
 
+    [[nodiscard]] QString title(Row row) const;
     void read();
     void show();
 
