@@ -4,6 +4,7 @@
 #include "content/contentlibrary.h"
 #include "content/text.h"
 #include "store/hverror.h"
+#include "store/textfile.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +21,15 @@ AppModel::AppModel(QObject *parent)
 bool AppModel::showsResults() const
 {
     return !Text::trimmedBlanks(m_globalQuery).isEmpty();
+}
+
+void AppModel::setNoteDraft(const std::optional<Note> &note)
+{
+    if (m_noteDraft == note)
+        return;
+    m_noteDraft = note;
+    setDraftIsUnsaved(false);
+    Q_EMIT noteDraftChanged();
 }
 
 void AppModel::openLesson(const QString &id)
@@ -137,6 +147,23 @@ void AppModel::toggleBookmark(const QString &type, const QString &id)
 
 void AppModel::newNote(const QString &type, const QString &id)
 {
+    if (m_draftIsUnsaved)
+        return;
     const QDateTime now = QDateTime::currentDateTimeUtc();
     setNoteDraft(Note{ .targetType = type, .targetID = id, .created = now, .updated = now });
+}
+
+void AppModel::exportNotes()
+{
+    const UserStore *store = UserStore::shared();
+    if (!store || !m_savePanel)
+        return;
+    const OptionalText path = m_savePanel(u"Halvorin notes.txt"_s);
+    if (!path)
+        return;
+    try {
+        Store::writeTextFile(*path, store->exportText(ContentLibrary::shared()));
+    } catch (const HVError &error) {
+        setMessage("The notes could not be saved: "_L1 + error.description());
+    }
 }

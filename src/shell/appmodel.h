@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 
 class ContentLibrary;
 struct Lesson;
@@ -28,16 +29,23 @@ class AppModel : public QObject
     Q_PROPERTY(QString screenShortTitle READ screenShortTitle NOTIFY screenChanged)
     Q_PROPERTY(QString screenSymbol READ screenSymbol NOTIFY screenChanged)
     Q_PROPERTY(QString screenComponent READ screenComponent NOTIFY screenChanged)
+    /// Whether there is a progress file, without which nothing can be exported.
+    Q_PROPERTY(bool hasStore READ hasStore CONSTANT)
     /// Whether the course has a lesson to go on with.
     Q_PROPERTY(bool canContinue READ canContinue CONSTANT)
     Q_PROPERTY(QString gearQuery READ gearQuery WRITE setGearQuery NOTIFY gearQueryChanged)
     Q_PROPERTY(QString globalQuery READ globalQuery WRITE setGlobalQuery NOTIFY globalQueryChanged)
     Q_PROPERTY(bool showsResults READ showsResults NOTIFY globalQueryChanged)
     Q_PROPERTY(bool editsNote READ editsNote NOTIFY noteDraftChanged)
+    Q_PROPERTY(bool draftIsUnsaved READ draftIsUnsaved NOTIFY draftIsUnsavedChanged)
     Q_PROPERTY(bool hasMessage READ hasMessage NOTIFY messageChanged)
     Q_PROPERTY(QString messageText READ messageText NOTIFY messageChanged)
 public:
     using OptionalText = std::optional<QString>;
+
+    /// Asks the user for the path of a file to write, with this name suggested, and waits for the
+    /// answer: nothing if the user thinks better of it.
+    using SavePanel = std::function<OptionalText(const QString &suggestedName)>;
 
     [[nodiscard]] static AppModel &shared();
 
@@ -91,11 +99,16 @@ public:
 
     /// The note being written; while there is one, the editor is open.
     [[nodiscard]] const std::optional<Note> &noteDraft() const { return m_noteDraft; }
-    void setNoteDraft(const std::optional<Note> &note)
-    {
-        set(m_noteDraft, note, &AppModel::noteDraftChanged);
-    }
+    void setNoteDraft(const std::optional<Note> &note);
     [[nodiscard]] bool editsNote() const { return m_noteDraft.has_value(); }
+
+    /// Whether the editor holds words that would be lost with it. It says so itself; a draft that
+    /// is put in or taken away holds none.
+    [[nodiscard]] bool draftIsUnsaved() const { return m_draftIsUnsaved; }
+    void setDraftIsUnsaved(bool unsaved)
+    {
+        set(m_draftIsUnsaved, unsaved, &AppModel::draftIsUnsavedChanged);
+    }
 
     /// The one message to the user, shown until it is dismissed. A later one replaces an earlier.
     [[nodiscard]] const OptionalText &message() const { return m_message; }
@@ -133,6 +146,7 @@ public:
     /// Opens the lesson to go on with, if the course has any.
     Q_INVOKABLE void continueCourse();
 
+    [[nodiscard]] bool hasStore() const { return UserStore::shared() != nullptr; }
     [[nodiscard]] bool canContinue() const { return nextLesson(nullptr) != nullptr; }
 
     /// The first lesson of the course that isn't finished in `store`; the very first if all are,
@@ -146,8 +160,16 @@ public:
     /// Sets or takes away the bookmark of a target; nothing without a store.
     Q_INVOKABLE void toggleBookmark(const QString &type, const QString &id);
 
-    /// Starts a note tied to a target. Nothing is written until the editor saves it.
+    /// Starts a note tied to a target. Nothing is written until the editor saves it. While unsaved
+    /// words are in the editor it keeps them, and no other note begins.
     Q_INVOKABLE void newNote(const QString &type, const QString &id);
+
+    /// Writes all that the store holds as a text into a file of the user's choice; a failure
+    /// becomes the message. Nothing without a store or without a panel.
+    Q_INVOKABLE void exportNotes();
+
+    /// The platform's own dialog, which knows of windows and is set by whoever has one.
+    void setSavePanel(SavePanel panel) { m_savePanel = std::move(panel); }
 
     Q_INVOKABLE void dismissMessage() { setMessage({}); }
     Q_INVOKABLE void dismissNote() { setNoteDraft({}); }
@@ -164,6 +186,7 @@ Q_SIGNALS:
     void softwareIDChanged();
     void globalQueryChanged();
     void noteDraftChanged();
+    void draftIsUnsavedChanged();
     void messageChanged();
     void simChanged();
 
@@ -188,6 +211,8 @@ private:
     OptionalText m_softwareID;
     QString m_globalQuery;
     std::optional<Note> m_noteDraft;
+    bool m_draftIsUnsaved = false;
     OptionalText m_message;
     SimSettings m_sim;
+    SavePanel m_savePanel;
 };

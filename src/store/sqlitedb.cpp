@@ -69,7 +69,10 @@ struct Binder {
 
 QString decodedText(QByteArrayView bytes)
 {
-    // QString::fromUtf8() swallows a byte order mark at the front, which a user may have pasted.
+    // QString::fromUtf8() swallows a byte order mark at the front, which a user may have pasted. A
+    // decoder keeps it and takes several times as long.
+    if (!bytes.startsWith("\xEF\xBB\xBF"))
+        return QString::fromUtf8(bytes);
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
     return decoder(bytes);
 }
@@ -232,20 +235,28 @@ qint64 SQLiteDB::run(const QString &sql, const QList<SQLValue> &arguments)
 
 QList<SQLRow> SQLiteDB::query(const QString &sql, const QList<SQLValue> &arguments) const
 {
-    const Statement statement = prepared(sql, arguments);
     QList<SQLRow> rows;
+    each(sql, arguments, [&rows](const SQLRow &row) { rows.append(row); });
+    return rows;
+}
+
+void SQLiteDB::each(const QString &sql, const QList<SQLValue> &arguments,
+    const std::function<void(const SQLRow &row)> &take) const
+{
+    const Statement statement = prepared(sql, arguments);
+    QStringList names;
+    for (int column = 0; column < sqlite3_column_count(statement.get()); ++column)
+        names.append(QString::fromUtf8(sqlite3_column_name(statement.get(), column)));
+
+    SQLRow row; // One for all: making its table anew takes longer than reading the columns.
     int code = sqlite3_step(statement.get());
     for (; code == SQLITE_ROW; code = sqlite3_step(statement.get())) {
-        SQLRow row;
-        for (int column = 0; column < sqlite3_column_count(statement.get()); ++column) {
-            const QString name = QString::fromUtf8(sqlite3_column_name(statement.get(), column));
-            row.values.insert(name, columnValue(statement.get(), column));
-        }
-        rows.append(row);
+        for (int column = 0; column < names.size(); ++column)
+            row.values.insert(names.at(column), columnValue(statement.get(), column));
+        take(row);
     }
     if (code != SQLITE_DONE)
         throw error();
-    return rows;
 }
 
 qint64 SQLiteDB::scalarInt(const QString &sql, const QList<SQLValue> &arguments) const
@@ -272,6 +283,14 @@ void SQLiteDB::transaction(const std::function<void()> &body)
         sqlite3_exec(m_handle.get(), "ROLLBACK", nullptr, nullptr, nullptr);
         throw;
     }
+}
+
+bool SQLiteDB::hasMoved() const
+{
+    int moved = 0; // Stays so where SQLite doesn't know of such a thing.
+    if (m_handle)
+        sqlite3_file_control(m_handle.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    return moved != 0;
 }
 
 int SQLiteDB::changes() const

@@ -144,6 +144,11 @@ public:
     [[nodiscard]] QList<SQLRow> query(
         const QString &sql, const QList<SQLValue> &arguments = {}) const;
 
+    /// The same for long results, row by row and without keeping any: `take` sees each row for as
+    /// long as its call lasts.
+    void each(const QString &sql, const QList<SQLValue> &arguments,
+        const std::function<void(const SQLRow &row)> &take) const;
+
     /// The number in the first row of a statement that selects one column; 0 if there is no row, no
     /// number in it, or the statement fails. Never throws an HVError.
     [[nodiscard]] qint64 scalarInt(const QString &sql, const QList<SQLValue> &arguments = {}) const;
@@ -154,6 +159,10 @@ public:
 
     /// The number of rows that the last INSERT, UPDATE or DELETE changed.
     [[nodiscard]] int changes() const;
+
+    /// Whether another file stands under the path by now, or none: what is written from here on
+    /// would be gone with the connection. Only where a file that is open can be moved or deleted.
+    [[nodiscard]] bool hasMoved() const;
 
     /// SQLite's message about the last call, or "closed".
     [[nodiscard]] QString lastError() const;

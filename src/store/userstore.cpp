@@ -37,6 +37,10 @@ const QString kNoteEmpty = u"A note can't be empty."_s;
 const QString kNoteTooLong
     = u"That note is very long (over 20,000 characters). Please split it into two notes."_s;
 
+const QString kFileHasMoved
+    = u"the progress file was moved or deleted while it was open. Put it back, or "
+      "quit and start again; until then nothing can be saved."_s;
+
 // SQLite would leave the rights of a new file to the umask; its companions take over the file's. A
 // failure needs no answer: a file that exists keeps its rights, and a place where none can be made
 // shows when SQLite opens it.
@@ -141,10 +145,10 @@ bool UserStore::isComplete(const QString &lessonID) const
 void UserStore::setComplete(const QString &lessonID, bool done)
 {
     if (done) {
-        m_db.run(u"INSERT OR REPLACE INTO progress VALUES (?, ?)"_s,
+        write(u"INSERT OR REPLACE INTO progress VALUES (?, ?)"_s,
             { lessonID, QDateTime::currentDateTimeUtc() });
     } else {
-        m_db.run(u"DELETE FROM progress WHERE lesson_id = ?"_s, { lessonID });
+        write(u"DELETE FROM progress WHERE lesson_id = ?"_s, { lessonID });
     }
     raiseRevision();
 }
@@ -153,7 +157,7 @@ void UserStore::saveQuiz(const QString &moduleID, int score, int total, const QD
 {
     if (total < 1 || score < 0 || score > total)
         throw HVError(HVError::Kind::Invalid, kQuizScoreRange);
-    m_db.run(u"INSERT INTO quiz_results (module_id, score, total, taken) VALUES (?,?,?,?)"_s,
+    write(u"INSERT INTO quiz_results (module_id, score, total, taken) VALUES (?,?,?,?)"_s,
         { moduleID, score, total, taken });
     raiseRevision();
 }
@@ -210,10 +214,10 @@ bool UserStore::isBookmarked(const QString &targetType, const QString &targetID)
 void UserStore::setBookmark(const QString &targetType, const QString &targetID, bool on)
 {
     if (on) {
-        m_db.run(u"INSERT OR IGNORE INTO bookmarks VALUES (?,?,?)"_s,
+        write(u"INSERT OR IGNORE INTO bookmarks VALUES (?,?,?)"_s,
             { targetType, targetID, QDateTime::currentDateTimeUtc() });
     } else {
-        m_db.run(u"DELETE FROM bookmarks WHERE target_type = ? AND target_id = ?"_s,
+        write(u"DELETE FROM bookmarks WHERE target_type = ? AND target_id = ?"_s,
             { targetType, targetID });
     }
     raiseRevision();
@@ -222,21 +226,25 @@ void UserStore::setBookmark(const QString &targetType, const QString &targetID, 
 QList<Note> UserStore::notes(
     const std::optional<QString> &targetType, const std::optional<QString> &targetID) const
 {
-    const QList<SQLRow> found = targetType && targetID
-        ? rows(
-            u"SELECT * FROM notes WHERE target_type = ? AND target_id = ? ORDER BY updated DESC"_s,
-            { targetType, targetID })
-        : rows(u"SELECT * FROM notes ORDER BY updated DESC"_s);
+    const bool isTied = targetType && targetID;
+    const QString sql = isTied
+        ? u"SELECT * FROM notes WHERE target_type = ? AND target_id = ? ORDER BY updated DESC"_s
+        : u"SELECT * FROM notes ORDER BY updated DESC"_s;
+    const QList<SQLValue> arguments
+        = isTied ? QList<SQLValue>{ *targetType, *targetID } : QList<SQLValue>();
 
     QList<Note> notes;
-    notes.reserve(found.size());
-    for (const SQLRow &row : found) {
-        notes.append({ .id = number(row, u"id"_s),
-            .targetType = row.str(u"target_type"_s),
-            .targetID = row.str(u"target_id"_s),
-            .body = row.str(u"body"_s),
-            .created = moment(row, u"created"_s),
-            .updated = moment(row, u"updated"_s) });
+    try {
+        m_db.each(sql, arguments, [&notes](const SQLRow &row) {
+            notes.append({ .id = number(row, u"id"_s),
+                .targetType = row.str(u"target_type"_s),
+                .targetID = row.str(u"target_id"_s),
+                .body = row.str(u"body"_s),
+                .created = moment(row, u"created"_s),
+                .updated = moment(row, u"updated"_s) });
+        });
+    } catch (const HVError &) {
+        return {}; // as in rows()
     }
     return notes;
 }
@@ -251,12 +259,12 @@ void UserStore::save(Note &note)
 
     const QDateTime now = QDateTime::currentDateTimeUtc();
     if (note.id != 0) {
-        m_db.run(u"UPDATE notes SET body = ?, updated = ? WHERE id = ?"_s, { body, now, note.id });
+        write(u"UPDATE notes SET body = ?, updated = ? WHERE id = ?"_s, { body, now, note.id });
         if (m_db.changes() == 0)
             throw HVError(HVError::Kind::NotFound);
     } else {
-        note.id = m_db.run(u"INSERT INTO notes (target_type, target_id, body, created, updated) "
-                           "VALUES (?,?,?,?,?)"_s,
+        note.id = write(u"INSERT INTO notes (target_type, target_id, body, created, updated) "
+                        "VALUES (?,?,?,?,?)"_s,
             { note.targetType, note.targetID, body, now, now });
         note.created = now;
     }
@@ -267,7 +275,7 @@ void UserStore::save(Note &note)
 
 void UserStore::deleteNote(qint64 id)
 {
-    m_db.run(u"DELETE FROM notes WHERE id = ?"_s, { id });
+    write(u"DELETE FROM notes WHERE id = ?"_s, { id });
     raiseRevision();
 }
 
@@ -278,6 +286,13 @@ QList<SQLRow> UserStore::rows(const QString &sql, const QList<SQLValue> &argumen
     } catch (const HVError &) {
         return {}; // every caller is a display, and an empty one still lets the user write
     }
+}
+
+qint64 UserStore::write(const QString &sql, const QList<SQLValue> &arguments)
+{
+    if (m_db.hasMoved())
+        throw HVError(HVError::Kind::Database, kFileHasMoved);
+    return m_db.run(sql, arguments);
 }
 
 void UserStore::raiseRevision()

@@ -23,6 +23,8 @@
 #include <memory>
 #include <optional>
 
+class ContentLibrary;
+
 /// What the user wrote, about one target.
 struct Note {
     qint64 id = 0; ///< 0 for a note not yet saved.
@@ -117,12 +119,29 @@ public:
     /// Deletes a note; one that is gone already is no failure.
     void deleteNote(qint64 id);
 
+    /// What a target is called, such as "Lesson: " and the lesson's title. Of what the course
+    /// doesn't have, the id stands for the title; a type that is tied to nothing is a "General
+    /// note".
+    [[nodiscard]] static QString title(
+        const QString &type, const QString &id, const ContentLibrary &library);
+
+    /// All that the store holds but its dates, in one line that is the same for equal contents:
+    /// lessons, quizzes, bookmarks and notes, such as
+    /// "m01.1,m03.2#m01=5/6#gear:tripod#general:general:Buy a tripod.". "###" for an empty store.
+    [[nodiscard]] QString digest() const;
+
+    /// The same for its user to read and to carry away: progress by module, bookmarks and notes,
+    /// with the dates of the notes' last changes.
+    [[nodiscard]] QString exportText(const ContentLibrary &library) const;
+
 Q_SIGNALS:
     void revisionChanged();
 
 private:
     [[nodiscard]] QList<SQLRow> rows(
         const QString &sql, const QList<SQLValue> &arguments = {}) const;
+    /// Runs a statement that writes, unless the file is no longer where it was.
+    qint64 write(const QString &sql, const QList<SQLValue> &arguments);
     void raiseRevision();
 
     SQLiteDB m_db;

@@ -99,7 +99,7 @@ TestCase {
 
     function test_has_the_entries_of_its_menus_with_their_keys() {
         const shown = title => rows(title).map(row => [row.Accessible.name, row.keys]);
-        compare(shown("File"), [["New Note", "Ctrl+N"], ["Quit", "Ctrl+Q"]]);
+        compare(shown("File"), [["New Note", "Ctrl+N"], ["Export My Notes & Progress…", "Ctrl+Shift+E"], ["Quit", "Ctrl+Q"]]);
         compare(shown("View"), [["Zoom In", "Ctrl++"], ["Zoom Out", "Ctrl+-"], ["Actual Size (100%)", "Ctrl+0"], ["Zoom Level", ""],
                                 ["Full Screen", "F11"]]);
         const help = shown("Help");
@@ -273,5 +273,55 @@ TestCase {
         compare(String(program.color), "#0c0b0a");
         World.chooseTheme("rose-gold");
         compare(String(program.color), "#24161d");
+    }
+
+    function field() {
+        return Find.first(program.contentItem.parent, item => item.selectAll !== undefined && item.readOnly === false && item.echoMode === undefined);
+    }
+    function question() {
+        return Find.text(program.contentItem.parent, "Close without saving your note?");
+    }
+    function writeNote() {
+        AppModel.newNote("lesson", "l1");
+        tryVerify(() => field()?.activeFocus);
+        keyClick("a");
+        compare(field().text, "a");
+    }
+
+    function test_asks_before_an_unsaved_note_goes_with_it() {
+        writeNote();
+        program.close();
+        tryVerify(() => question());
+        verify(program.visible);
+        tryVerify(() => Find.button(program.contentItem.parent, "Keep Writing").activeFocus);
+        keyClick(Qt.Key_Return);
+        tryVerify(() => !question());
+        compare(field().text, "a");
+        verify(AppModel.draftIsUnsaved);
+        // It asks again the next time.
+        program.close();
+        tryVerify(() => question());
+        keyClick(Qt.Key_Escape);
+        tryVerify(() => !question());
+        verify(program.visible);
+        compare(field().text, "a");
+    }
+
+    function test_a_note_can_be_given_up_for_closing() {
+        writeNote();
+        program.close();
+        tryVerify(() => question());
+        Find.button(program.contentItem.parent, "Close Without Saving").clicked();
+        tryVerify(() => !program.visible);
+        verify(!AppModel.editsNote);
+        compare(World.noteBodies(), []);
+    }
+
+    function test_closes_unasked_over_an_editor_without_new_words() {
+        AppModel.newNote("lesson", "l1");
+        tryVerify(() => field()?.activeFocus);
+        program.close();
+        tryVerify(() => !program.visible);
+        AppModel.dismissNote();
     }
 }

@@ -158,4 +158,53 @@ TestCase {
         const bottom = item => item.mapToItem(dialog.contentItem, 0, item.height).y;
         tryVerify(() => bottom(words) < ok.mapToItem(dialog.contentItem, 0, 0).y && bottom(ok) <= dialog.height);
     }
+
+    Component {
+        id: questions
+        CNDialog {
+            title: "Delete it?"
+            message: "It can't be undone."
+            buttonTitle: "Delete"
+            cancelTitle: "Keep"
+            destructive: true
+        }
+    }
+    SignalSpy {
+        id: accepted
+        signalName: "accepted"
+    }
+
+    function ask() {
+        const question = createTemporaryObject(questions, test);
+        accepted.target = question;
+        accepted.clear();
+        question.open();
+        tryVerify(() => question.opened);
+        return question;
+    }
+
+    function test_a_question_has_two_answers_and_begins_with_the_harmless_one() {
+        const question = ask();
+        compare(Find.buttons(question.contentItem).map(button => button.label), ["Keep", "Delete"]);
+        verify(Find.button(question.contentItem, "Keep").activeFocus);
+        keyClick(Qt.Key_Return);
+        tryVerify(() => !question.visible);
+        compare(accepted.count, 0);
+    }
+
+    function test_a_question_is_accepted_by_its_button_alone() {
+        const question = ask();
+        keyClick(Qt.Key_Tab);
+        verify(Find.button(question.contentItem, "Delete").activeFocus);
+        keyClick(Qt.Key_Return);
+        tryVerify(() => !question.visible);
+        compare(accepted.count, 1);
+    }
+
+    function test_escape_is_no_answer_to_a_question() {
+        const question = ask();
+        keyClick(Qt.Key_Escape);
+        tryVerify(() => !question.visible);
+        compare(accepted.count, 0);
+    }
 }

@@ -72,12 +72,14 @@ module: light
 q: What sorts the light?
 right: The hole
 wrong: The wall
+why: One ray for each point gets through.
 
 === QUESTION q2
 module: light
 q: How does the picture stand?
 right: On its head
 wrong: On its feet
+why: Rays cross in the hole.
 )";
 
 constexpr auto kGear = R"(=== GEAR tripod
@@ -137,6 +139,7 @@ void resetModel()
     model.setNoteDraft({});
     model.setMessage({});
     model.setSim({});
+    model.setSavePanel({});
 }
 
 } // namespace

@@ -37,9 +37,11 @@ public:
     /// From here on the progress file refuses every write with this reason. Reads go on.
     void refuseWrites(const QString &reason);
 
-private:
+    /// A path in the scratch folder.
+    [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }
     [[nodiscard]] QString progressPath() const;
 
+private:
     QTemporaryDir m_folder;
 };
 

@@ -1,11 +1,14 @@
 #include "screens/quickworld.h"
 
+#include "content/contentlibrary.h"
 #include "kit/themes.h"
 #include "shell/appmodel.h"
 #include "shell/setup.h"
+#include "store/dateformatter.h"
 #include "store/userstore.h"
 
 #include <QClipboard>
+#include <QFile>
 #include <QQuickWindow>
 #include <QtQml/qqml.h>
 
@@ -128,6 +131,97 @@ QString QuickWorld::noteTarget() const
 {
     const std::optional<Note> &note = model().noteDraft();
     return note ? note->targetType + u' ' + note->targetID : u"none"_s;
+}
+
+void QuickWorld::addNote(const QString &type, const QString &id, const QString &body)
+{
+    Note note{ .targetType = type, .targetID = id, .body = body };
+    UserStore::shared()->save(note);
+    // The clock may not have moved on since the last one; the order of the tests is that of calls.
+    SQLiteDB(s_world->progressPath())
+        .run(u"UPDATE notes SET updated = updated + id * 0.001 WHERE id = ?"_s, { note.id });
+}
+
+QStringList QuickWorld::noteBodies() const
+{
+    QStringList bodies;
+    for (const Note &note : UserStore::shared()->notes())
+        bodies.append(note.body);
+    return bodies;
+}
+
+void QuickWorld::editNote()
+{
+    model().setNoteDraft(UserStore::shared()->notes().constFirst());
+}
+
+void QuickWorld::loseNotes()
+{
+    SQLiteDB(s_world->progressPath()).exec(u"DELETE FROM notes"_s);
+}
+
+void QuickWorld::setBookmark(const QString &type, const QString &id)
+{
+    UserStore::shared()->setBookmark(type, id, true);
+    SQLiteDB(s_world->progressPath())
+        .run(u"UPDATE bookmarks SET created = created + rowid * 0.001 WHERE target_id = ?"_s,
+            { id });
+}
+
+void QuickWorld::keepMany(int notes, int bookmarks)
+{
+    SQLiteDB file(s_world->progressPath());
+    file.transaction([&] {
+        for (int i = 0; i < notes; ++i) {
+            // From one line to several.
+            file.run(u"INSERT INTO notes (target_type, target_id, body, created, updated) "
+                     "VALUES ('lesson', 'l1', ?, ?, ?)"_s,
+                { QString(u"Note %1. "_s.arg(i)
+                      + u"The light falls from the left. "_s.repeated(i % 23)),
+                    i, i });
+        }
+        for (int i = 0; i < bookmarks; ++i) {
+            file.run(
+                u"INSERT INTO bookmarks VALUES ('gear', ?, ?)"_s, { u"bookmark %1"_s.arg(i), i });
+        }
+    });
+}
+
+void QuickWorld::addScore(const QString &moduleID, int score, int total, int daysAgo)
+{
+    UserStore::shared()->saveQuiz(
+        moduleID, score, total, QDateTime::currentDateTimeUtc().addDays(-daysAgo));
+}
+
+QStringList QuickWorld::scores(const QString &moduleID) const
+{
+    QStringList scores;
+    for (const QuizResult &result : UserStore::shared()->quizResults(moduleID))
+        scores.append(u"%1/%2"_s.arg(result.score).arg(result.total));
+    return scores;
+}
+
+QString QuickWorld::day(int daysAgo) const
+{
+    return DateFormatter().day(QDateTime::currentDateTimeUtc().addDays(-daysAgo));
+}
+
+void QuickWorld::answerSavePanel(const QString &name)
+{
+    model().setSavePanel(
+        [path = s_world->path(name), isAnswered = !name.isEmpty()](
+            const QString &) { return isAnswered ? std::optional(path) : std::nullopt; });
+}
+
+QString QuickWorld::text(const QString &name) const
+{
+    QFile file(s_world->path(name));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QString QuickWorld::exportText() const
+{
+    return UserStore::shared()->exportText(ContentLibrary::shared());
 }
 
 QVariantList QuickWorld::screens() const

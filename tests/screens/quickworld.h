@@ -42,6 +42,29 @@ public:
     /// Type and id of the target of the note that is being written.
     Q_INVOKABLE [[nodiscard]] QString noteTarget() const;
 
+    Q_INVOKABLE void addNote(const QString &type, const QString &id, const QString &body);
+    /// The bodies of all notes, the last changed first.
+    Q_INVOKABLE [[nodiscard]] QStringList noteBodies() const;
+    /// Opens the editor on the note that was changed last.
+    Q_INVOKABLE void editNote();
+    /// Deletes all notes, as another process would.
+    Q_INVOKABLE void loseNotes();
+    Q_INVOKABLE void setBookmark(const QString &type, const QString &id);
+    /// Writes so many of each at once.
+    Q_INVOKABLE void keepMany(int notes, int bookmarks);
+    /// A score of a quiz taken so many days ago.
+    Q_INVOKABLE void addScore(const QString &moduleID, int score, int total, int daysAgo = 0);
+    /// All scores of a module, the latest first, such as "1/2".
+    Q_INVOKABLE [[nodiscard]] QStringList scores(const QString &moduleID) const;
+    /// The date of so many days ago, as the program writes it.
+    Q_INVOKABLE [[nodiscard]] QString day(int daysAgo = 0) const;
+
+    /// The next save panel is answered with a file of this name in a folder of the test's own, or
+    /// canceled if there is none; text() is what stands there then.
+    Q_INVOKABLE void answerSavePanel(const QString &name);
+    Q_INVOKABLE [[nodiscard]] QString text(const QString &name) const;
+    Q_INVOKABLE [[nodiscard]] QString exportText() const;
+
     /// The rows of the table of screens: screen, title, shortTitle, symbol and component of each.
     Q_INVOKABLE [[nodiscard]] QVariantList screens() const;
 

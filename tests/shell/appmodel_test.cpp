@@ -24,7 +24,8 @@ auto fieldsOf(const AppModel &model)
 {
     return std::tuple(model.screen(), model.moduleID(), model.lessonID(), model.quizModuleID(),
         model.gearID(), model.gearQuery(), model.eventID(), model.videoID(), model.softwareID(),
-        model.globalQuery(), model.noteDraft(), model.message(), model.sim());
+        model.globalQuery(), model.noteDraft(), model.draftIsUnsaved(), model.message(),
+        model.sim());
 }
 
 // The signals of a model in the order in which it sends them.
@@ -45,6 +46,7 @@ public:
             { u"softwareID"_s, &AppModel::softwareIDChanged },
             { u"globalQuery"_s, &AppModel::globalQueryChanged },
             { u"noteDraft"_s, &AppModel::noteDraftChanged },
+            { u"draftIsUnsaved"_s, &AppModel::draftIsUnsavedChanged },
             { u"message"_s, &AppModel::messageChanged },
             { u"sim"_s, &AppModel::simChanged },
         };
@@ -172,6 +174,8 @@ TEST_F(AppModelTest, AnnouncesTheChangeOfEachFieldOnce)
     EXPECT_EQ(changed.take(), QStringList(u"globalQuery"_s));
     model.setNoteDraft(Note{ .targetType = u"general"_s });
     EXPECT_EQ(changed.take(), QStringList(u"noteDraft"_s));
+    model.setDraftIsUnsaved(true);
+    EXPECT_EQ(changed.take(), QStringList(u"draftIsUnsaved"_s));
     model.setMessage(u"The disk is full."_s);
     EXPECT_EQ(changed.take(), QStringList(u"message"_s));
     model.setSim(darker);
@@ -182,7 +186,7 @@ TEST_F(AppModelTest, AnnouncesTheChangeOfEachFieldOnce)
             std::optional(u"a1"_s), std::optional(u"tripod"_s), u"legs"_s,
             std::optional(u"daguerre"_s), std::optional(u"vid-light"_s),
             std::optional(u"darkroom"_s), u"light"_s,
-            std::optional(Note{ .targetType = u"general"_s }),
+            std::optional(Note{ .targetType = u"general"_s }), true,
             std::optional(u"The disk is full."_s), darker));
 }
 
@@ -775,4 +779,93 @@ TEST_F(AppModelTest, DismissingANoteClosesTheEditor)
     EXPECT_FALSE(model.editsNote());
     EXPECT_EQ(model.noteDraft(), std::nullopt);
     EXPECT_EQ(changed.take(), QStringList(u"noteDraft"_s));
+}
+
+TEST_F(AppModelTest, ANewNoteWaitsWhileAnotherHoldsUnsavedWords)
+{
+    model.newNote(u"lesson"_s, u"a1-l1"_s);
+    model.setDraftIsUnsaved(true);
+    model.newNote(u"general"_s, u"general"_s);
+    ASSERT_TRUE(model.noteDraft());
+    EXPECT_EQ(model.noteDraft()->targetID, u"a1-l1"_s);
+    EXPECT_TRUE(model.draftIsUnsaved());
+}
+
+TEST_F(AppModelTest, ADraftThatIsPutInOrTakenAwayHoldsNoUnsavedWords)
+{
+    model.newNote(u"lesson"_s, u"a1-l1"_s);
+    model.setDraftIsUnsaved(true);
+    model.dismissNote();
+    EXPECT_FALSE(model.draftIsUnsaved());
+    model.newNote(u"lesson"_s, u"a1-l2"_s);
+    EXPECT_FALSE(model.draftIsUnsaved());
+}
+
+namespace {
+
+// A save panel that remembers what it was asked.
+struct Panel {
+    std::optional<QString> answer;
+    QStringList asked;
+
+    [[nodiscard]] AppModel::SavePanel function()
+    {
+        return [this](const QString &name) {
+            asked.append(name);
+            return answer;
+        };
+    }
+};
+
+} // namespace
+
+TEST_F(AppModelTest, ExportWritesTheStoreToTheFileThatTheUserNames)
+{
+    Note note{ .targetType = u"lesson"_s, .targetID = u"a1-l1"_s, .body = u"déjà ✓"_s };
+    store().save(note);
+    Panel panel{ .answer = folder.path(u"My own name.txt"_s), .asked = {} };
+    model.setSavePanel(panel.function());
+    model.exportNotes();
+    EXPECT_EQ(panel.asked, QStringList{ u"Halvorin notes.txt"_s });
+    EXPECT_EQ(
+        QString::fromUtf8(fileBytes(*panel.answer)), store().exportText(ContentLibrary::shared()));
+    EXPECT_FALSE(model.message());
+}
+
+TEST_F(AppModelTest, ExportThatIsCanceledWritesNothingAndKeepsTheMessage)
+{
+    model.setMessage(u"An earlier one"_s);
+    const Fingerprint before = fingerprint(folder.path());
+    Panel panel;
+    model.setSavePanel(panel.function());
+    model.exportNotes();
+    EXPECT_EQ(panel.asked.size(), 1);
+    EXPECT_EQ(fingerprint(folder.path()), before);
+    EXPECT_EQ(model.message(), u"An earlier one"_s);
+}
+
+TEST_F(AppModelTest, ExportSaysWhyTheFileCouldNotBeWritten)
+{
+    Panel panel{ .answer = folder.path(u"no/such/folder/notes.txt"_s), .asked = {} };
+    model.setSavePanel(panel.function());
+    model.exportNotes();
+    ASSERT_TRUE(model.message());
+    EXPECT_TRUE(model.message()->startsWith(u"The notes could not be saved: "_s));
+    EXPECT_GT(model.message()->size(), u"The notes could not be saved: "_s.size());
+}
+
+TEST_F(AppModelTest, ExportWithoutAStoreDoesNotEvenAsk)
+{
+    UserStore::setShared(nullptr);
+    Panel panel{ .answer = folder.path(u"notes.txt"_s), .asked = {} };
+    model.setSavePanel(panel.function());
+    model.exportNotes();
+    EXPECT_TRUE(panel.asked.isEmpty());
+    EXPECT_FALSE(model.message());
+}
+
+TEST_F(AppModelTest, ExportWithoutAPanelDoesNothing)
+{
+    model.exportNotes();
+    EXPECT_FALSE(model.message());
 }

@@ -9,6 +9,9 @@
 //         Prints a line after each write that came back: the kind of record and its key, which is
 //         made of the name and the number of the write. A write that finds the file busy is tried
 //         again, as a person would.
+//
+//     child lock <file>               holds the file, as another program may
+//         Begins to write, prints "locked", and lets go when its input ends.
 
 #include "store/rehearsal.h"
 #include "store/userstore.h"
@@ -52,6 +55,16 @@ int open(const QUrl &file, bool asLaunch)
         say(error.description());
         return 1;
     }
+}
+
+int lock(const QUrl &file)
+{
+    SQLiteDB db(file.toLocalFile());
+    db.exec(u"BEGIN IMMEDIATE"_s);
+    say(u"locked"_s);
+    waitForRelease();
+    db.exec(u"ROLLBACK"_s);
+    return 0;
 }
 
 /// Makes the write with this number and returns what to print about it.
@@ -112,5 +125,7 @@ int main(int argc, char **argv)
         return writeWhile(file, arguments.value(3),
             [count = arguments.value(4).toInt()](int number) { return number < count; });
     }
+    if (command == "lock"_L1)
+        return lock(file);
     return open(file, command == "launch"_L1);
 }

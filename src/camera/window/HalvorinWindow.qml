@@ -4,6 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Halvorin.Kit
 import Halvorin.Camera
+import Halvorin.Shell
 import Halvorin.Window
 
 /*! The program's one window: the menu bar, and the camera under the interface zoom. */
@@ -27,8 +28,15 @@ T.ApplicationWindow {
         window: root
     }
 
-    // Other windows may be open; the camera is the program.
-    onClosing: Qt.quit()
+    // Other windows may be open; the camera is the program. A note that is being written doesn't go
+    // with it unasked.
+    onClosing: close => {
+        close.accepted = !AppModel.draftIsUnsaved;
+        if (close.accepted)
+            Qt.quit();
+        else
+            question.active = true;
+    }
 
     menuBar: CNMenuBar {
         id: bar
@@ -60,6 +68,18 @@ T.ApplicationWindow {
                 anchors.fill: parent
                 focus: true
             }
+        }
+    }
+    Loader {
+        id: question
+        active: false
+        source: "UnsavedNoteDialog.qml"
+        onLoaded: (item as UnsavedNoteDialog).window = root
+    }
+    Connections {
+        target: question.item
+        function onClosed(): void {
+            question.active = false;
         }
     }
     Shortcut {

@@ -19,7 +19,7 @@ FocusScope {
 
     /*! Reads what else may be shown, so that nobody waits for it at the first visit. */
     function readAhead(): void {
-        for (const component of [...screens.components, results.component])
+        for (const component of [...screens.components, results.component, editor.component])
             ahead.components.push(Qt.createComponent(results.fileOf(component), Component.Asynchronous));
     }
 
@@ -105,8 +105,10 @@ FocusScope {
         active: AppModel.hasMessage
         source: "MessageDialog.qml"
     }
-    Loader {
+    DisplayLoader {
+        id: editor
         active: AppModel.editsNote
-        source: "NoteDialog.qml"
+        c: root.c
+        component: "Halvorin.Screens.NoteEditor"
     }
 }

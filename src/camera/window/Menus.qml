@@ -25,6 +25,12 @@ Item {
             enabled: !AppModel.editsNote
             onTriggered: AppModel.newNote("general", "general")
         }
+        T.Action {
+            text: qsTr("Export My Notes & Progress…").replace("&", "&&")
+            shortcut: "Ctrl+Shift+E"
+            enabled: AppModel.hasStore
+            onTriggered: AppModel.exportNotes()
+        }
         CNMenuSeparator {}
         T.Action {
             text: qsTr("Quit")

@@ -1,17 +1,18 @@
 import QtQuick
 import Halvorin.Kit
 
-/*! A button of polished metal; the prominent one wears the accent. */
+/*! A button of polished metal; the prominent one wears the accent, or what is put in its place. */
 Pressable {
     id: root
 
     property bool prominent: false
     property bool compact: false
+    property color fill: CNUI.theme.accent
 
     QtObject {
         id: metrics
-        readonly property color top: root.prominent ? Qt.alpha(CNUI.theme.accent, 0.95) : Metal.chrome.top
-        readonly property color bottom: root.prominent ? Qt.alpha(CNUI.theme.accent, 0.6) : Metal.chrome.bottom
+        readonly property color top: root.prominent ? Qt.alpha(root.fill, 0.95) : Metal.chrome.top
+        readonly property color bottom: root.prominent ? Qt.alpha(root.fill, 0.6) : Metal.chrome.bottom
     }
 
     horizontalPadding: root.compact ? 12 : 16

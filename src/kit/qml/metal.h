@@ -49,6 +49,7 @@ class Metal : public QObject
     Q_PROPERTY(QColor bodyShadow MEMBER bodyShadow CONSTANT)
     Q_PROPERTY(QColor dialogShadow MEMBER dialogShadow CONSTANT)
     Q_PROPERTY(QColor veil MEMBER veil CONSTANT)
+    Q_PROPERTY(QColor alarm MEMBER alarm CONSTANT)
     Q_PROPERTY(QColor print MEMBER print CONSTANT)
     Q_PROPERTY(QColor litCut MEMBER litCut CONSTANT)
     Q_PROPERTY(QColor darkCut MEMBER darkCut CONSTANT)
@@ -115,6 +116,9 @@ public:
 
     /// Over what a dialog keeps from being used.
     const QColor veil = Painting::gray(0, 0.55);
+
+    /// Under the white label of what can't be undone, in every theme.
+    const QColor alarm{ 184, 40, 34 };
 
     // Lettering: printed on bright metal, and the two cuts of an engraving.
     const QColor print = Painting::gray(0, 0.8);

@@ -64,9 +64,12 @@ bool ScrollBehavior::scrollTo(qreal x, qreal y)
 {
     QQuickItem &view = *pane();
     const QPointF before = position();
-    const qreal maxX = std::max(0.0, view.property("contentWidth").toReal() - view.width());
-    const qreal maxY = std::max(0.0, view.property("contentHeight").toReal() - view.height());
-    const QPointF after(std::clamp(x, 0.0, maxX), std::clamp(y, 0.0, maxY));
+    // The content of a list may begin anywhere: it guesses the heights of what it hasn't made yet.
+    const qreal minX = view.property("originX").toReal();
+    const qreal minY = view.property("originY").toReal();
+    const qreal rangeX = std::max(0.0, view.property("contentWidth").toReal() - view.width());
+    const qreal rangeY = std::max(0.0, view.property("contentHeight").toReal() - view.height());
+    const QPointF after(std::clamp(x, minX, minX + rangeX), std::clamp(y, minY, minY + rangeY));
     if (after.x() != before.x())
         view.setProperty("contentX", after.x());
     if (after.y() != before.y())
@@ -80,6 +83,12 @@ bool ScrollBehavior::moveTo(qreal x, qreal y)
     if (moved)
         pane()->setProperty("handMoves", pane()->property("handMoves").toInt() + 1);
     return moved;
+}
+
+void ScrollBehavior::stayInsideLater()
+{
+    QMetaObject::invokeMethod(
+        this, [this] { scrollTo(position().x(), position().y()); }, Qt::QueuedConnection);
 }
 
 void ScrollBehavior::reveal(QQuickItem *item)
@@ -211,8 +220,11 @@ bool ScrollBehavior::follow(const QKeyEvent &key)
     case Qt::Key_PageDown:
         return moveTo(now.x(), now.y() + page);
     case Qt::Key_Home:
-        return moveTo(now.x(), 0);
+        return moveTo(now.x(), std::numeric_limits<qreal>::lowest());
     case Qt::Key_End:
+        // A list that guesses heights knows its last row all the same.
+        if (pane()->metaObject()->indexOfMethod("positionViewAtEnd()") >= 0)
+            return QMetaObject::invokeMethod(pane(), "positionViewAtEnd");
         return moveTo(now.x(), std::numeric_limits<qreal>::max());
     default:
         return false;

@@ -32,6 +32,9 @@ public:
     /// goes. Returns whether anything moved.
     Q_INVOKABLE bool scrollTo(qreal x, qreal y);
 
+    /// Brings the pane back between the ends of its content as soon as that is laid out.
+    Q_INVOKABLE void stayInsideLater();
+
     /// Moves the pane, and the panes around it, no further than it takes to show the item with a
     /// margin around it. Of an item that is too large the beginning is shown.
     Q_INVOKABLE void reveal(QQuickItem *item);

@@ -17,8 +17,10 @@ class Type : public QObject
     Q_PROPERTY(QFont applicationName MEMBER applicationName CONSTANT)
     Q_PROPERTY(QFont pageTitle MEMBER pageTitle CONSTANT)
     Q_PROPERTY(QFont heading MEMBER heading CONSTANT)
+    Q_PROPERTY(QFont sheetTitle MEMBER sheetTitle CONSTANT)
     Q_PROPERTY(QFont dialogTitle MEMBER dialogTitle CONSTANT)
     Q_PROPERTY(QFont cardTitle MEMBER cardTitle CONSTANT)
+    Q_PROPERTY(QFont question MEMBER question CONSTANT)
     Q_PROPERTY(QFont entryTitle MEMBER entryTitle CONSTANT)
     Q_PROPERTY(QFont groupCaption MEMBER groupCaption CONSTANT)
     Q_PROPERTY(QFont sectionCaption MEMBER sectionCaption CONSTANT)
@@ -36,6 +38,9 @@ class Type : public QObject
     Q_PROPERTY(QFont link MEMBER link CONSTANT)
     Q_PROPERTY(QFont topic MEMBER topic CONSTANT)
     Q_PROPERTY(QFont currentTopic MEMBER currentTopic CONSTANT)
+    Q_PROPERTY(QFont rowTitle MEMBER rowTitle CONSTANT)
+    Q_PROPERTY(QFont noteTarget MEMBER noteTarget CONSTANT)
+    Q_PROPERTY(QFont date MEMBER date CONSTANT)
     Q_PROPERTY(QFont field MEMBER field CONSTANT)
     Q_PROPERTY(QFont button MEMBER button CONSTANT)
     Q_PROPERTY(QFont compactButton MEMBER compactButton CONSTANT)
@@ -61,9 +66,11 @@ public:
     const QFont applicationName = Fonts::rounded(24, QFont::ExtraBold);
     const QFont pageTitle = Fonts::rounded(22, QFont::ExtraBold);
     const QFont title = Fonts::rounded(21, QFont::ExtraBold, 1.4);
+    const QFont sheetTitle = Fonts::rounded(18, QFont::ExtraBold);
     const QFont dialogTitle = Fonts::rounded(16, QFont::ExtraBold);
     const QFont heading = Fonts::rounded(15, QFont::Bold);
     const QFont cardTitle = Fonts::rounded(14, QFont::ExtraBold);
+    const QFont question = Fonts::rounded(14, QFont::Bold);
     const QFont entryTitle = Fonts::rounded(13.5, QFont::DemiBold);
     const QFont groupCaption = Fonts::rounded(11, QFont::ExtraBold, 1.5);
     const QFont sectionCaption = Fonts::rounded(10.5, QFont::ExtraBold, 1.2);
@@ -79,6 +86,9 @@ public:
     const QFont tip = Fonts::rounded(11.5, QFont::Medium);
     const QFont detail = Fonts::rounded(11);
     const QFont strongDetail = Fonts::rounded(11, QFont::DemiBold);
+    const QFont rowTitle = Fonts::rounded(12.5, QFont::DemiBold);
+    const QFont noteTarget = Fonts::rounded(11.5, QFont::Bold);
+    const QFont date = Fonts::rounded(10.5);
 
     const QFont smallPrint = Fonts::rounded(10.5);
 

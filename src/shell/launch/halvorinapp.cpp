@@ -7,13 +7,16 @@
 #include "selfcheck/diagramsheet.h"
 #include "selfcheck/snapshot.h"
 #include "selfcheck/themesheet.h"
+#include "shell/appmodel.h"
 #include "shell/info.h"
+#include "shell/launch/savepanel.h"
 #include "shell/launch/scenegraph.h"
 #include "shell/launch/singleinstance.h"
 #include "shell/launch/terminationsignals.h"
 #include "shell/setup.h"
 #include "store/userstore.h"
 
+#include <QApplication>
 #include <QEventLoop>
 #include <QQmlComponent>
 #include <QTextStream>
@@ -103,7 +106,7 @@ HalvorinApp::HalvorinApp(int &argc, char **argv)
 void HalvorinApp::start(int &argc, char **argv)
 {
     SceneGraph::prepare();
-    m_application = std::make_unique<QGuiApplication>(argc, argv);
+    m_application = std::make_unique<QApplication>(argc, argv);
     QCoreApplication::setApplicationName(HVInfo::appName);
     QCoreApplication::setApplicationVersion(HVInfo::version());
     QGuiApplication::setDesktopFileName(u"crvn-halvorin"_s);
@@ -140,6 +143,8 @@ void HalvorinApp::start(int &argc, char **argv)
     m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
     if (!m_window)
         qFatal("The window could not be built: %s", qPrintable(component.errorString()));
+    AppModel::shared().setSavePanel(
+        [this](const QString &name) { return Launch::askWhereToSave(m_window.get(), name); });
     const auto afterFirstFrame = [this] {
         tidyEnvironment();
         QGuiApplication::setWindowIcon(CRVNKitHost::icon());
@@ -155,6 +160,7 @@ HalvorinApp::~HalvorinApp()
 {
     if (m_indexing)
         m_indexing->wait();
+    AppModel::shared().setSavePanel({});
     // Screens read the store while they are taken down; it closes after them.
     m_kitWindows.reset();
     m_window.reset();

@@ -27,10 +27,18 @@ void Launch::quitOnTerminationSignals()
         return;
     auto *notifier
         = new QSocketNotifier(g_sockets[1], QSocketNotifier::Read, QCoreApplication::instance());
-    QObject::connect(notifier, &QSocketNotifier::activated, notifier, [notifier] {
-        notifier->setEnabled(false);
-        QCoreApplication::quit();
-    });
+    QObject::connect(
+        notifier, &QSocketNotifier::activated, notifier, [isRepeated = false]() mutable {
+            char byte = 0;
+            [[maybe_unused]] const auto taken = ::read(g_sockets[1], &byte, 1);
+            // The window may ask about a note that isn't saved. Who sends a second signal has
+            // decided.
+            if (isRepeated)
+                QCoreApplication::exit();
+            else
+                QCoreApplication::quit();
+            isRepeated = true;
+        });
 
     struct sigaction action = {};
     action.sa_handler = handleSignal;

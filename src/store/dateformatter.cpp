@@ -1,0 +1,50 @@
+#include "store/dateformatter.h"
+
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString mediumDateFormat(const QLocale &locale)
+{
+    // A weekday goes with what binds it to the date: all letters that don't stand for a part of the
+    // date behind it, but only blanks and commas before it ("2026. nov. 15., vasárnap").
+    static const QRegularExpression weekdayFirst(uR"(^dddd(?:'[^']*'|[^dMy'])*)"_s);
+    static const QRegularExpression weekdayLater(uR"([\s,،]*dddd)"_s);
+    return locale.dateFormat(QLocale::LongFormat)
+        .remove(weekdayFirst)
+        .remove(weekdayLater)
+        .replace("MMMM"_L1, "MMM"_L1);
+}
+
+// What stands between date and time, as a part of a format.
+QString conjunction(const QLocale &locale)
+{
+    return locale.language() == QLocale::English ? u" 'at' "_s : u", "_s;
+}
+
+// Where no locale is set dates are in the language of the texts.
+QLocale spoken(const QLocale &locale)
+{
+    return locale.language() == QLocale::C ? QLocale(QLocale::English, QLocale::UnitedStates)
+                                           : locale;
+}
+
+} // namespace
+
+DateFormatter::DateFormatter(const QLocale &locale)
+    : m_locale(spoken(locale))
+    , m_day(mediumDateFormat(m_locale))
+    , m_dayAndTime(m_day + conjunction(m_locale) + m_locale.timeFormat(QLocale::ShortFormat))
+{ }
+
+QString DateFormatter::day(const QDateTime &moment) const
+{
+    return m_locale.toString(moment.toLocalTime(), m_day);
+}
+
+QString DateFormatter::dayAndTime(const QDateTime &moment) const
+{
+    return m_locale.toString(moment.toLocalTime(), m_dayAndTime);
+}
