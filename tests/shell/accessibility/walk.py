@@ -232,6 +232,40 @@ class Walk(unittest.TestCase):
         self.assertEqual(self.get("menu item", "Undo").description, "Not available now")
         act(self.get("menu bar", "Edit"), "Press")
 
+    def test_a_slider_of_the_lab_is_set_and_stepped(self):
+        self.go("Exposure Lab")
+        slider = self.get("slider", "Subject distance (focus)")
+        value = slider.queryValue()
+        value.currentValue = 5
+        until(lambda: slider.clear_cache() or slider.description == "5.0 m", "it reads 5.0 m")
+        act(slider, "Increase")
+        until(lambda: slider.clear_cache() or slider.description == "5.1 m", "it reads 5.1 m")
+
+    def test_the_lab_tells_its_picture_in_words(self):
+        self.go("Exposure Lab")
+        picture = self.get("image", "Preview picture")
+        until(lambda: picture.clear_cache() or "background blur" in picture.description,
+              "it is described")
+        act(self.get("push button", "Set shutter for me (aperture priority)"), "Press")
+        until(lambda: picture.clear_cache() or "correct exposure" in picture.description, "it is right")
+
+    def test_a_module_opens_its_quiz(self):
+        act(self.get("push button", "Exposure. Beginner. 0 of 7 lessons finished"), "Press")
+        act(self.get("push button", "Take the module quiz (…"), "Press")
+        self.get("heading", "Quiz: Exposure")
+        self.check_names("the quiz")
+
+    def test_a_note_is_written_and_kept(self):
+        self.go("My Notes & Progress")
+        act(self.get("push button", "New note"), "Press")
+        self.get("push button", "Save Note")
+        self.check_names("the note editor")
+        self.type("Meet the light")
+        act(self.get("push button", "Save Note"), "Press")
+        self.gone("push button", "Save Note")
+        until(lambda: any("Meet the light" in node.name for node in everything(self.app)),
+              "the note is in the list")
+
     def test_help_is_read_and_searched(self):
         act(self.get("menu bar", "Help"), "Press")
         act(self.get("menu item", "Exposure Lab"), "Press")
