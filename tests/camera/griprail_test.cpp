@@ -53,8 +53,12 @@ TEST_F(GripRail, TellsWhichScreenIsShownFromTheStart)
     const std::unique_ptr<QObject> window(component.create());
     ASSERT_TRUE(window) << qPrintable(component.errorString());
 
-    const QAccessibleInterface *rail = QAccessible::queryAccessibleInterface(window.get());
-    ASSERT_NE(rail, nullptr);
+    const QAccessibleInterface *shown = QAccessible::queryAccessibleInterface(window.get());
+    ASSERT_NE(shown, nullptr);
+    ASSERT_EQ(shown->childCount(), 1);
+    const QAccessibleInterface *rail = shown->child(0);
+    EXPECT_EQ(rail->role(), QAccessible::List);
+    EXPECT_EQ(rail->text(QAccessible::Name), u"Screens"_s);
     EXPECT_EQ(rail->childCount(), 9);
     EXPECT_EQ(checkedTitles(*rail), QStringList(u"Campus"_s));
     AppModel::shared().setScreen(Screen::Course);

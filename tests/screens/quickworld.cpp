@@ -1,6 +1,7 @@
 #include "screens/quickworld.h"
 
 #include "content/contentlibrary.h"
+#include "kit/preferences.h"
 #include "kit/themes.h"
 #include "shell/appmodel.h"
 #include "shell/setup.h"
@@ -59,6 +60,8 @@ void QuickWorld::end()
 void QuickWorld::begin(const QString &course, bool withStore)
 {
     s_world.reset();
+    // Otherwise a window opens as the last one was left.
+    Preferences::shared().remove(u"crvn.frame.main"_s);
     s_world = std::make_unique<World>(
         courseNamed(course), withStore ? World::Store::Fresh : World::Store::None);
 }
