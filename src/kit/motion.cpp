@@ -63,6 +63,9 @@ constexpr auto kInterface = "org.freedesktop.portal.Settings"_L1;
 
 void Motion::followDesktop()
 {
+    // Without a desktop's bus one would be started, in which nobody answers.
+    if (!qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS"))
+        return;
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
