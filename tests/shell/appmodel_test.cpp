@@ -44,6 +44,7 @@ public:
             { u"videoID"_s, &AppModel::videoIDChanged },
             { u"softwareID"_s, &AppModel::softwareIDChanged },
             { u"globalQuery"_s, &AppModel::globalQueryChanged },
+            { u"searchOutcome"_s, &AppModel::searchOutcomeChanged },
             { u"noteDraft"_s, &AppModel::noteDraftChanged },
             { u"message"_s, &AppModel::messageChanged },
             { u"sim"_s, &AppModel::simChanged },

@@ -20,6 +20,7 @@ class Type : public QObject
     Q_PROPERTY(QFont dialogTitle MEMBER dialogTitle CONSTANT)
     Q_PROPERTY(QFont cardTitle MEMBER cardTitle CONSTANT)
     Q_PROPERTY(QFont entryTitle MEMBER entryTitle CONSTANT)
+    Q_PROPERTY(QFont hitTitle MEMBER hitTitle CONSTANT)
     Q_PROPERTY(QFont groupCaption MEMBER groupCaption CONSTANT)
     Q_PROPERTY(QFont sectionCaption MEMBER sectionCaption CONSTANT)
     Q_PROPERTY(QFont kitCaption MEMBER kitCaption CONSTANT)
@@ -65,6 +66,7 @@ public:
     const QFont heading = Fonts::rounded(15, QFont::Bold);
     const QFont cardTitle = Fonts::rounded(14, QFont::ExtraBold);
     const QFont entryTitle = Fonts::rounded(13.5, QFont::DemiBold);
+    const QFont hitTitle = Fonts::rounded(13, QFont::Bold);
     const QFont groupCaption = Fonts::rounded(11, QFont::ExtraBold, 1.5);
     const QFont sectionCaption = Fonts::rounded(10.5, QFont::ExtraBold, 1.2);
     const QFont kitCaption = Fonts::rounded(10, QFont::ExtraBold, 1.1);
