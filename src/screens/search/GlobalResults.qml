@@ -20,6 +20,7 @@ FocusScope {
         readonly property real padding: 10
         readonly property real inset: 8 // Rows have room around their words, to be lit in.
         readonly property real barRoom: 8
+        readonly property real ringRoom: 4 // The ring of a row at the edge is whole.
     }
 
     SearchResults {
@@ -85,61 +86,67 @@ FocusScope {
             color: root.c.oledDim
             wrapMode: Text.Wrap
         }
-        ListView {
-            id: list
-            y: close.height + 8
-            width: card.width - 2 * metrics.padding
-            height: card.height - 2 * metrics.padding - y
-            spacing: 1
+        Item {
+            x: -metrics.ringRoom
+            y: close.height + 8 - metrics.ringRoom
+            width: card.width - 2 * metrics.padding + 2 * metrics.ringRoom
+            height: card.height - 2 * metrics.padding - y + metrics.ringRoom
             clip: true
-            focus: true
-            interactive: false
-            boundsBehavior: Flickable.StopAtBounds
-            highlightMoveDuration: 0
-            keyNavigationEnabled: false
-            model: results
-            Accessible.role: Accessible.List
-            Accessible.name: qsTr("Search results")
 
-            /*! How often the reader has scrolled. */
-            property int handMoves: 0
+            ListView {
+                id: list
+                anchors.fill: parent
+                anchors.margins: metrics.ringRoom
+                spacing: 1
+                focus: true
+                interactive: false
+                boundsBehavior: Flickable.StopAtBounds
+                highlightMoveDuration: 0
+                keyNavigationEnabled: false
+                model: results
+                Accessible.role: Accessible.List
+                Accessible.name: qsTr("Search results")
 
-            function go(index: int): bool {
-                if (index < 0 || index >= list.count)
-                    return false;
-                // The focus comes first: what becomes current takes it along without a reason, and shows
-                // no ring.
-                list.positionViewAtIndex(index, ListView.Contain);
-                list.itemAtIndex(index)?.forceActiveFocus(Qt.TabFocusReason);
-                list.currentIndex = index;
-                return true;
-            }
+                /*! How often the reader has scrolled. */
+                property int handMoves: 0
 
-            delegate: HitRow {
-                id: row
-                required property int index
-                required property string ref
-
-                width: list.width - metrics.barRoom
-                c: root.c
-                focus: ListView.isCurrentItem
-                // The Tab key stops at the list once.
-                focusPolicy: ListView.isCurrentItem ? Qt.StrongFocus : Qt.ClickFocus
-                onClicked: AppModel.openHit(row.kind, row.ref)
-                Keys.onUpPressed: event => event.accepted = list.go(row.index - 1)
-                Keys.onDownPressed: event => event.accepted = list.go(row.index + 1) || true
-                Keys.onPressed: event => {
-                    if (event.key === Qt.Key_Home)
-                        event.accepted = list.go(0);
-                    else if (event.key === Qt.Key_End)
-                        event.accepted = list.go(list.count - 1);
+                function go(index: int): bool {
+                    if (index < 0 || index >= list.count)
+                        return false;
+                    // The focus comes first: what becomes current takes it along without a reason, and shows
+                    // no ring.
+                    list.positionViewAtIndex(index, ListView.Contain);
+                    list.itemAtIndex(index)?.forceActiveFocus(Qt.TabFocusReason);
+                    list.currentIndex = index;
+                    return true;
                 }
-            }
 
-            ScrollBehavior {}
-            T.ScrollBar.vertical: ThinScrollBar {
-                ink: root.c.glow
-                policy: !CNUI.posing && list.contentHeight > list.height ? T.ScrollBar.AsNeeded : T.ScrollBar.AlwaysOff
+                delegate: HitRow {
+                    id: row
+                    required property int index
+                    required property string ref
+
+                    width: list.width - metrics.barRoom
+                    c: root.c
+                    focus: ListView.isCurrentItem
+                    // The Tab key stops at the list once.
+                    focusPolicy: ListView.isCurrentItem ? Qt.StrongFocus : Qt.ClickFocus
+                    onClicked: AppModel.openHit(row.kind, row.ref)
+                    Keys.onUpPressed: event => event.accepted = list.go(row.index - 1)
+                    Keys.onDownPressed: event => event.accepted = list.go(row.index + 1) || true
+                    Keys.onPressed: event => {
+                        if (event.key === Qt.Key_Home)
+                            event.accepted = list.go(0);
+                        else if (event.key === Qt.Key_End)
+                            event.accepted = list.go(list.count - 1);
+                    }
+                }
+
+                ScrollBehavior {}
+                T.ScrollBar.vertical: ThinScrollBar {
+                    ink: root.c.glow
+                    policy: !CNUI.posing && list.contentHeight > list.height ? T.ScrollBar.AsNeeded : T.ScrollBar.AlwaysOff
+                }
             }
         }
     }

@@ -25,7 +25,7 @@ Pressable {
     focusInk: root.c.glow
 
     contentItem: Item {
-        implicitHeight: words.height
+        implicitHeight: Math.ceil(words.height)
         Tag {
             y: 1
             text: root.kind
