@@ -30,7 +30,9 @@ QList<Value> inModule(const QList<Value> &values, QStringView moduleID)
 
 ContentLibrary::ContentLibrary(const QString &folder)
     : m_course(Content::readCourse(folder))
-{ }
+{
+    m_background.setMaxThreadCount(1);
+}
 
 const ContentLibrary &ContentLibrary::shared()
 {

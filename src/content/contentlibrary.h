@@ -4,13 +4,17 @@
 #include "content/coursecontent.h"
 #include "store/sqlitedb.h"
 
+#include <QFuture>
+#include <QThreadPool>
+
+#include <atomic>
 #include <memory>
 #include <mutex>
 #include <optional>
 
 /// The whole course, read from the text files of one folder and unchanged from then on, with an
 /// index to search it by. It may be made in one thread and used in another; several may look things
-/// up at once, but only one may search, which moves the index's database.
+/// up and search at once.
 ///
 /// The index takes five times as long as all else, and the first screen shows without it. So it is
 /// made when something first asks for it, which any thread may do.
@@ -86,9 +90,18 @@ public:
     /// kind    only hits of this kind; of every kind if absent.
     /// limit   at most so many hits, chosen before titles are lifted; a negative one is no limit.
     ///
-    /// Empty for a query without a word or of more than 24, and where SQLite fails. The last few
-    /// answers are remembered, since screens ask for them at each redraw.
+    /// A word that the query names twice counts twice. More than twelve different words are taken
+    /// for a sentence out of a text: what holds them one after the other comes before all that only
+    /// holds each of them, and lessons first.
+    ///
+    /// Empty for a query without a word, and where SQLite fails. The last few answers are
+    /// remembered, since screens ask for them at each redraw.
     [[nodiscard]] QList<Hit> search(
+        const QString &query, const std::optional<QString> &kind = {}, qint64 limit = 60) const;
+
+    /// The same in a thread of the library's, one question after the other; a question that is
+    /// canceled ends soon. search() comes first: what is being looked up here starts anew after it.
+    [[nodiscard]] QFuture<QList<Hit>> searchInBackground(
         const QString &query, const std::optional<QString> &kind = {}, qint64 limit = 60) const;
 
     /// What is wrong with the course, as sentences for its editors: loadErrors(), then what the
@@ -97,10 +110,15 @@ public:
     [[nodiscard]] QStringList problems() const;
 
 private:
-    struct Answer {
+    struct Search {
         QString query;
         std::optional<QString> kind;
         qint64 limit;
+
+        friend bool operator==(const Search &, const Search &) = default;
+    };
+    struct Answer {
+        Search search;
         QList<Hit> hits;
     };
 
@@ -112,11 +130,16 @@ private:
 
     [[nodiscard]] const Index &madeIndex() const;
     [[nodiscard]] Index makeIndex() const;
-    [[nodiscard]] QList<Hit> found(
-        const QStringList &terms, const std::optional<QString> &kind, qint64 limit) const;
+    /// Both with m_searching locked.
+    [[nodiscard]] QList<Hit> answer(const Search &search) const;
+    [[nodiscard]] QList<Hit> found(const Search &search) const;
 
     CourseContent m_course;
-    mutable QList<Answer> m_answers; // Oldest first.
     mutable std::once_flag m_indexIsMade;
     mutable Index m_index;
+
+    mutable std::mutex m_searching;        // The index's connection and the answers.
+    mutable std::atomic_int m_inHaste = 0; // Callers of search() that wait for it.
+    mutable QList<Answer> m_answers;       // Oldest first.
+    mutable QThreadPool m_background;      // Last, so that it ends before what it uses.
 };

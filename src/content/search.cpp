@@ -1,9 +1,14 @@
 #include "content/contentlibrary.h"
 
 #include "content/contentkind.h"
+#include "content/ranking.h"
 #include "content/text.h"
 
+#include <QHash>
+#include <QPromise>
+
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -13,14 +18,9 @@ namespace {
 const QString kCreate = u"CREATE VIRTUAL TABLE fts USING fts5(kind UNINDEXED, ref UNINDEXED, "
                         u"title, aka, body, tokenize = 'porter unicode61')"_s;
 const QString kInsert = u"INSERT INTO fts VALUES (?,?,?,?,?)"_s;
-const QString kSelect = u"SELECT kind, ref, title, snippet(fts, 4, '', '', '…', 14) AS snip "
-                        u"FROM fts WHERE fts MATCH ?"_s;
-const QString kOfKind = u" AND kind = ?"_s;
-const QString kBestFirst = u" ORDER BY bm25(fts, 0, 0, 12.0, 6.0, 1.0) LIMIT "_s;
 
-// The time that a snippet takes grows with the square of the number of words: at this bound a query
-// whose words stand everywhere takes seconds, and a page pasted by mistake would take hours.
-constexpr qsizetype kMostWords = 24;
+// A query of more different words than this is taken for a pasted sentence.
+constexpr qsizetype kMostTypedWords = 12;
 
 // One for each screen with a search field, and some for the way back while the user deletes.
 constexpr qsizetype kRememberedAnswers = 8;
@@ -33,11 +33,26 @@ QString searchableText(const GearEntry &entry)
     return entry.body + u' ' + models.join(u' ');
 }
 
-// All terms, each as the beginning of a token. Terms hold no quote, so that none can end early and
+// All words, each as the beginning of a token. Words hold no quote, so that none can end early and
 // be read as an operator.
-QString matchExpression(const QStringList &terms)
+QString anywhere(const QStringList &words)
 {
-    return u'"' + terms.join(u"\"* AND \""_s) + u"\"*";
+    return u'"' + words.join(u"\"* AND \""_s) + u"\"*";
+}
+
+// The words one after the other, the last as the beginning of a token.
+QString inOneStretch(const QStringList &words)
+{
+    return u'"' + words.join(u' ') + u"\"*";
+}
+
+// The numbers of the rows that a statement selects, for the list of an IN.
+QString rowsOf(const SQLiteDB &index, const QString &sql, const QList<SQLValue> &arguments)
+{
+    QStringList numbers;
+    for (const SQLRow &row : index.query(sql, arguments))
+        numbers.append(row.str(u"rowid"_s));
+    return numbers.join(u',');
 }
 
 // How well a title answers: 0 is the query itself, 1 begins with it, 2 is all else.
@@ -60,7 +75,7 @@ ContentLibrary::Index ContentLibrary::makeIndex() const
 {
     std::optional<SQLiteDB> index;
     try {
-        index.emplace(u":memory:"_s);
+        index.emplace(Ranking::openDatabase());
     } catch (const HVError &) {
         return { .error = u"search index could not be created"_s };
     }
@@ -95,49 +110,99 @@ ContentLibrary::Index ContentLibrary::makeIndex() const
 QList<ContentLibrary::Hit> ContentLibrary::search(
     const QString &query, const std::optional<QString> &kind, qint64 limit) const
 {
-    const auto isAsked = [&](const Answer &answer) {
-        return answer.query == query && answer.kind == kind && answer.limit == limit;
-    };
-    const auto known = std::find_if(m_answers.cbegin(), m_answers.cend(), isAsked);
+    ++m_inHaste;
+    const std::scoped_lock lock(m_searching);
+    --m_inHaste;
+    m_inHaste.notify_all();
+    return answer({ query, kind, limit });
+}
+
+QFuture<QList<ContentLibrary::Hit>> ContentLibrary::searchInBackground(
+    const QString &query, const std::optional<QString> &kind, qint64 limit) const
+{
+    const auto promise = std::make_shared<QPromise<QList<Hit>>>();
+    promise->start();
+    m_background.start([this, promise, search = Search{ query, kind, limit }] {
+        QList<Hit> hits;
+        for (bool isAnswered = false; !isAnswered && !promise->isCanceled();) {
+            for (int waiting = m_inHaste; waiting > 0; waiting = m_inHaste)
+                m_inHaste.wait(waiting);
+            const std::scoped_lock lock(m_searching);
+            const Ranking::Interruption interruption(
+                [&] { return promise->isCanceled() || m_inHaste > 0; });
+            hits = answer(search);
+            isAnswered = m_inHaste == 0;
+        }
+        promise->addResult(std::move(hits)); // dropped if nobody wants it any more
+        promise->finish();
+    });
+    return promise->future();
+}
+
+QList<ContentLibrary::Hit> ContentLibrary::answer(const Search &search) const
+{
+    const auto known = std::ranges::find(m_answers, search, &Answer::search);
     if (known != m_answers.cend())
         return known->hits;
 
     try {
-        const QList<Hit> hits = found(Text::words(query), kind, limit);
+        const QList<Hit> hits = found(search);
         if (m_answers.size() == kRememberedAnswers)
             m_answers.removeFirst();
-        m_answers.append({ query, kind, limit, hits });
+        m_answers.append({ search, hits });
         return hits;
     } catch (const HVError &) {
         return {}; // a search that finds nothing is what the user can act upon: another word
     }
 }
 
-QList<ContentLibrary::Hit> ContentLibrary::found(
-    const QStringList &terms, const std::optional<QString> &kind, qint64 limit) const
+QList<ContentLibrary::Hit> ContentLibrary::found(const Search &search) const
 {
-    if (terms.isEmpty() || terms.size() > kMostWords || !index())
+    const QStringList words = Text::words(search.query);
+    if (words.isEmpty() || !index())
         return {};
 
-    QString sql = kSelect;
-    QList<SQLValue> arguments = { matchExpression(terms) };
-    if (kind) {
-        sql += kOfKind;
-        arguments.append(*kind);
+    // First what is found and in which order, then the texts of those alone: a statement that
+    // selects all at once quotes every text that matches before it counts to the limit.
+    const Ranking::Asked asked = Ranking::asked(words);
+    const QString match = anywhere(asked.words);
+    QString order = u"hv_rank(fts, ?, 0, 0, 12.0, 6.0, 1.0)"_s;
+    if (asked.words.size() > kMostTypedWords) {
+        const QString sentence = rowsOf(
+            *index(), u"SELECT rowid FROM fts WHERE fts MATCH ?"_s, { inOneStretch(words) });
+        order.prepend(u"rowid NOT IN (%1), rowid IN (%1) AND kind <> 'lesson', "_s.arg(sentence));
     }
-    sql += kBestFirst + QString::number(limit);
+    QList<SQLValue> arguments = { match };
+    if (search.kind)
+        arguments.append(*search.kind);
+    arguments.append(asked.order);
+    const QString rows = rowsOf(*index(),
+        u"SELECT rowid FROM fts WHERE fts MATCH ? "_s
+            + (search.kind ? u"AND kind = ? "_s : QString()) + u"ORDER BY " + order + u" LIMIT "
+            + QString::number(search.limit),
+        arguments);
+    if (rows.isEmpty())
+        return {};
 
-    const QString needle = terms.join(u' ');
+    QHash<QString, Hit> texts;
+    // The sign keeps SQLite from looking the words up for each row.
+    for (const SQLRow &row : index()->query(
+             u"SELECT rowid, kind, ref, title, hv_snippet(fts, ?, 4, 14) AS snip FROM fts "
+             "WHERE fts MATCH ? AND +rowid IN ("_s
+                 + rows + u')',
+             { asked.order, match })) {
+        texts.insert(row.str(u"rowid"_s),
+            { .kind = row.str(u"kind"_s),
+                .ref = row.str(u"ref"_s),
+                .title = row.str(u"title"_s),
+                .snippet = row.str(u"snip"_s) });
+    }
+
+    const QString needle = words.join(u' ');
     QList<std::pair<int, Hit>> ranked;
-    for (const SQLRow &row : index()->query(sql, arguments)) {
-        Hit hit{
-            .kind = row.str(u"kind"_s),
-            .ref = row.str(u"ref"_s),
-            .title = row.str(u"title"_s),
-            .snippet = row.str(u"snip"_s),
-        };
-        const int tier = tierOf(hit.title, needle);
-        ranked.append({ tier, std::move(hit) });
+    for (const QString &row : rows.split(u',')) {
+        const Hit hit = texts.value(row);
+        ranked.append({ tierOf(hit.title, needle), hit });
     }
     std::ranges::stable_sort(ranked, {}, [](const auto &hit) { return hit.first; });
 

@@ -36,6 +36,7 @@ class AppModel : public QObject
     Q_PROPERTY(QString gearQuery READ gearQuery WRITE setGearQuery NOTIFY gearQueryChanged)
     Q_PROPERTY(QString globalQuery READ globalQuery WRITE setGlobalQuery NOTIFY globalQueryChanged)
     Q_PROPERTY(bool showsResults READ showsResults NOTIFY globalQueryChanged)
+    Q_PROPERTY(QString searchOutcome READ searchOutcome NOTIFY searchOutcomeChanged)
     Q_PROPERTY(bool editsNote READ editsNote NOTIFY noteDraftChanged)
     Q_PROPERTY(bool draftIsUnsaved READ draftIsUnsaved NOTIFY draftIsUnsavedChanged)
     Q_PROPERTY(bool hasMessage READ hasMessage NOTIFY messageChanged)
@@ -96,6 +97,14 @@ public:
         set(m_globalQuery, query, &AppModel::globalQueryChanged);
     }
     [[nodiscard]] bool showsResults() const;
+
+    /// What the results tell of themselves, such as "12 results"; empty while there are none to be
+    /// seen. Assistive technology reads it out at the search field.
+    [[nodiscard]] const QString &searchOutcome() const { return m_searchOutcome; }
+    void setSearchOutcome(const QString &outcome)
+    {
+        set(m_searchOutcome, outcome, &AppModel::searchOutcomeChanged);
+    }
 
     /// The note being written; while there is one, the editor is open.
     [[nodiscard]] const std::optional<Note> &noteDraft() const { return m_noteDraft; }
@@ -185,6 +194,7 @@ Q_SIGNALS:
     void videoIDChanged();
     void softwareIDChanged();
     void globalQueryChanged();
+    void searchOutcomeChanged();
     void noteDraftChanged();
     void draftIsUnsavedChanged();
     void messageChanged();
@@ -210,6 +220,7 @@ private:
     OptionalText m_videoID;
     OptionalText m_softwareID;
     QString m_globalQuery;
+    QString m_searchOutcome;
     std::optional<Note> m_noteDraft;
     bool m_draftIsUnsaved = false;
     OptionalText m_message;

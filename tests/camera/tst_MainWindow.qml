@@ -216,6 +216,33 @@ TestCase {
         verify(!results());
     }
 
+    function hits() {
+        return Find.buttons(results()).filter(button => button.kind !== undefined);
+    }
+    function test_arrows_lead_from_the_field_into_the_hits_and_back() {
+        camera.focusSearch();
+        keyClick("a");
+        tryVerify(() => hits().length > 1);
+        World.settle(camera);
+        keyClick(Qt.Key_Down);
+        verify(hits()[0].activeFocus);
+        keyClick(Qt.Key_Up);
+        verify(Find.field(part("TopPlate")).activeFocus);
+        keyClick(Qt.Key_Down);
+        keyClick(Qt.Key_Escape);
+        compare(AppModel.globalQuery, "");
+        tryVerify(() => Find.first(part("ScreenView"), item => item.activeFocus) || part("ScreenView").activeFocus);
+    }
+
+    function test_tells_at_the_field_how_much_it_finds() {
+        const field = Find.field(part("TopPlate"));
+        compare(field.Accessible.description, "");
+        AppModel.globalQuery = "tripod";
+        tryCompare(field.Accessible, "description", "1 result");
+        AppModel.globalQuery = "";
+        tryCompare(field.Accessible, "description", "");
+    }
+
     function test_keeps_the_screen_under_the_results_as_it_is() {
         AppModel.openModule("light");
         World.showQuiz("light");

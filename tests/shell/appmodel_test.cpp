@@ -45,6 +45,7 @@ public:
             { u"videoID"_s, &AppModel::videoIDChanged },
             { u"softwareID"_s, &AppModel::softwareIDChanged },
             { u"globalQuery"_s, &AppModel::globalQueryChanged },
+            { u"searchOutcome"_s, &AppModel::searchOutcomeChanged },
             { u"noteDraft"_s, &AppModel::noteDraftChanged },
             { u"draftIsUnsaved"_s, &AppModel::draftIsUnsavedChanged },
             { u"message"_s, &AppModel::messageChanged },

@@ -93,6 +93,7 @@ Item {
             c: root.c
             prompt: qsTr("Search lessons, gear, history, videos…")
             text: AppModel.globalQuery
+            outcome: AppModel.searchOutcome
             onEdited: text => AppModel.globalQuery = text
         }
     }

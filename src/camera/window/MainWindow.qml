@@ -59,6 +59,11 @@ FocusScope {
             id: plate
             width: parent.width
             c: root.c
+            Keys.onDownPressed: event => {
+                event.accepted = AppModel.showsResults;
+                if (event.accepted)
+                    results.forceActiveFocus(Qt.TabFocusReason);
+            }
         }
         GripRail {
             id: rail
@@ -80,6 +85,7 @@ FocusScope {
             c: root.c
 
             ScreenView {
+                id: screen
                 anchors.fill: parent
                 focus: true
                 c: root.c
@@ -91,6 +97,9 @@ FocusScope {
                 active: AppModel.showsResults
                 c: root.c
                 component: "Halvorin.Screens.GlobalResults"
+                // Whoever was in them goes on in the screen, or up to the field.
+                onActiveChanged: if (!results.active && results.focus) screen.focus = true
+                Keys.onUpPressed: plate.focusSearch()
             }
         }
         StrapSide {

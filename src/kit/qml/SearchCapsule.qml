@@ -64,6 +64,7 @@ Item {
         selectionColor: CNUI.theme.accent
         selectedTextColor: "white"
         selectByMouse: true
+        maximumLength: 8000 // Several pages; the field lays all of it out.
         verticalAlignment: TextInput.AlignVCenter
         font: Type.field
         onTextEdited: root.edited(field.text)

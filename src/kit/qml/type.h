@@ -22,6 +22,7 @@ class Type : public QObject
     Q_PROPERTY(QFont cardTitle MEMBER cardTitle CONSTANT)
     Q_PROPERTY(QFont question MEMBER question CONSTANT)
     Q_PROPERTY(QFont entryTitle MEMBER entryTitle CONSTANT)
+    Q_PROPERTY(QFont hitTitle MEMBER hitTitle CONSTANT)
     Q_PROPERTY(QFont groupCaption MEMBER groupCaption CONSTANT)
     Q_PROPERTY(QFont sectionCaption MEMBER sectionCaption CONSTANT)
     Q_PROPERTY(QFont kitCaption MEMBER kitCaption CONSTANT)
@@ -72,6 +73,7 @@ public:
     const QFont cardTitle = Fonts::rounded(14, QFont::ExtraBold);
     const QFont question = Fonts::rounded(14, QFont::Bold);
     const QFont entryTitle = Fonts::rounded(13.5, QFont::DemiBold);
+    const QFont hitTitle = Fonts::rounded(13, QFont::Bold);
     const QFont groupCaption = Fonts::rounded(11, QFont::ExtraBold, 1.5);
     const QFont sectionCaption = Fonts::rounded(10.5, QFont::ExtraBold, 1.2);
     const QFont kitCaption = Fonts::rounded(10, QFont::ExtraBold, 1.1);

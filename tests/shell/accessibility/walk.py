@@ -198,6 +198,21 @@ class Walk(unittest.TestCase):
         self.gone("push button", "Clear search")
         self.assertEqual(field.queryText().getText(0, -1), "")
 
+    def test_search_counts_its_hits_and_a_hit_opens_its_place(self):
+        field = self.get("text", "Search lessons, gear, history, videos…")
+        act(field, "SetFocus")
+        until(lambda: has(field, pyatspi.STATE_FOCUSED), "the field has the focus")
+        self.type("tripod")
+        until(lambda: field.clear_cache() or field.description.endswith(" results"),
+              "the count is told")
+        self.get("heading", field.description + ' for "tripod"')
+        self.get("list", "Search results")
+        self.check_names("the results")
+        act(self.get("push button", "Tripod, gear"), "Press")
+        self.gone("list", "Search results")
+        self.get("push button", "Mode dial, Gear Encyclopedia")
+        self.assertEqual(field.queryText().getText(0, -1), "")
+
     def test_menus_open_and_do_what_they_say(self):
         for menu, entry in [("File", "New Note"), ("Edit", "Select All"), ("View", "Zoom In"),
                             ("Go", "Exposure Lab"), ("Theme", "Rose Gold"),
