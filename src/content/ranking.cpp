@@ -1,5 +1,7 @@
 #include "content/ranking.h"
 
+#include "store/hverror.h"
+
 #include <QHash>
 
 #include <sqlite3.h>
@@ -361,7 +363,7 @@ fts5_api *interfaceOf(sqlite3 *connection)
     return api;
 }
 
-int addFunctions(sqlite3 *connection, char **, const sqlite3_api_routines *)
+int addFunctions(sqlite3 *connection)
 {
     fts5_api *api = interfaceOf(connection);
     if (!api)
@@ -371,26 +373,17 @@ int addFunctions(sqlite3 *connection, char **, const sqlite3_api_routines *)
                              : code;
 }
 
-// SQLite's type for any extension; it calls it as what it is.
-using Extension = void (*)();
-
 } // namespace
 
 namespace Ranking {
 
 SQLiteDB openDatabase()
 {
-    // A connection keeps its handle to itself, so the functions come to it as an extension that
-    // SQLite adds to what is opened meanwhile. A connection that another thread opens at that
-    // moment knows them too, and has no use for them.
-    struct Registration {
-        Extension extension = reinterpret_cast<Extension>(&addFunctions);
-        Registration() { sqlite3_auto_extension(extension); }
-        ~Registration() { sqlite3_cancel_auto_extension(extension); }
-        Q_DISABLE_COPY_MOVE(Registration)
-    };
-    const Registration registration;
-    return SQLiteDB(u":memory:"_s);
+    SQLiteDB database(u":memory:"_s);
+    const int code = addFunctions(database.handle());
+    if (code != SQLITE_OK)
+        throw HVError(HVError::Kind::Database, database.lastError(), code);
+    return database;
 }
 
 Asked asked(const QStringList &queryWords)
