@@ -167,8 +167,8 @@ public:
     /// SQLite's message about the last call, or "closed".
     [[nodiscard]] QString lastError() const;
 
-    /// SQLite's own handle, for what this layer leaves out, such as functions of one's own. It stays
-    /// this object's; null once closed.
+    /// SQLite's own handle, for what this layer leaves out, such as functions of one's own. It
+    /// stays this object's; null once closed.
     [[nodiscard]] sqlite3 *handle() const noexcept { return m_handle.get(); }
 
     /// Closes the connection; every statement after it fails with "closed". Safe to call again.
