@@ -42,6 +42,7 @@ struct HVColors {
     Q_PROPERTY(QColor cardEdge READ cardEdge)
     Q_PROPERTY(QColor cardEdgeRaised READ cardEdgeRaised)
     Q_PROPERTY(QColor fieldEdge READ fieldEdge)
+    Q_PROPERTY(QColor thread READ thread)
     Q_PROPERTY(QColor halo READ halo)
     Q_PROPERTY(QColor haloRaised READ haloRaised)
     Q_PROPERTY(QColor titleHalo READ titleHalo)
@@ -104,6 +105,8 @@ public:
     [[nodiscard]] QColor cardEdge() const { return tint(glow(), 0.16f); }
     [[nodiscard]] QColor cardEdgeRaised() const { return tint(glow(), 0.4f); }
     [[nodiscard]] QColor fieldEdge() const { return tint(glow(), 0.3f); }
+    /// What strings events along a timeline.
+    [[nodiscard]] QColor thread() const { return tint(glow(), 0.25f); }
     /// Around what is lit from within.
     [[nodiscard]] QColor halo() const { return tint(glow(), 0.25f); }
     [[nodiscard]] QColor haloRaised() const { return tint(glow(), 0.45f); }

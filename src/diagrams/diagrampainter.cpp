@@ -102,6 +102,18 @@ QPointF topLeft(QSizeF text, QPointF place, Anchor anchor)
     Q_UNREACHABLE();
 }
 
+// The box of a line of text at its place.
+QRectF textBox(const QString &words, QPointF place, Anchor anchor, const QFontMetricsF &metrics)
+{
+    const QSizeF extent(metrics.horizontalAdvance(words), metrics.height());
+    return { topLeft(extent, place, anchor), extent };
+}
+
+QFont calloutFont(const Fit &fit)
+{
+    return Fonts::rounded(std::max(kLabelSize * fit.s, kLeastTextSize), QFont::DemiBold);
+}
+
 void write(QPainter &painter, const QString &words, QPointF place, Anchor anchor, const QFont &font,
     const QColor &color)
 {
@@ -110,9 +122,8 @@ void write(QPainter &painter, const QString &words, QPointF place, Anchor anchor
     painter.setPen(color);
     // Measured for this device: its font is what is drawn.
     const QFontMetricsF metrics(font, painter.device());
-    const QSizeF extent(metrics.horizontalAdvance(words), metrics.height());
     const QPointF baseline(0, metrics.ascent());
-    painter.drawText(topLeft(extent, place, anchor) + baseline, words);
+    painter.drawText(textBox(words, place, anchor, metrics).topLeft() + baseline, words);
     painter.restore();
 }
 
@@ -253,8 +264,7 @@ void DiagramPainter::label(const Callout &callout) const
     ctx.strokePath(leader, pen);
     ctx.fillPath(ellipseIn(around(target, kDotRadius, kDotRadius)), text);
 
-    write(ctx, callout.text, at, anchorOf(callout),
-        Fonts::rounded(std::max(kLabelSize * fit.s, kLeastTextSize), QFont::DemiBold), text);
+    write(ctx, callout.text, at, anchorOf(callout), calloutFont(fit), text);
 }
 
 void DiagramPainter::caption(const QString &words) const
@@ -280,11 +290,31 @@ void DiagramPainter::draw(const Shape &shape) const
         shape);
 }
 
+void DiagramPainter::drawShapes(DiagramKind kind) const
+{
+    for (const Shape &shape : Diagrams::drawing(kind).shapes)
+        draw(shape);
+}
+
 void DiagramPainter::draw(DiagramKind kind) const
 {
-    const Drawing &drawing = Diagrams::drawing(kind);
-    for (const Shape &shape : drawing.shapes)
-        draw(shape);
-    for (const Callout &callout : drawing.callouts)
+    drawShapes(kind);
+    for (const Callout &callout : Diagrams::drawing(kind).callouts)
         label(callout);
+}
+
+QMarginsF calloutOverflow(DiagramKind kind, QSizeF canvas)
+{
+    const Fit fit(canvas);
+    QMarginsF overflow;
+    if (!fit.isVisible())
+        return overflow;
+    const QFontMetricsF metrics(calloutFont(fit));
+    for (const Callout &callout : Diagrams::drawing(kind).callouts) {
+        const QRectF box = textBox(callout.text, fit.map(callout.at), anchorOf(callout), metrics);
+        overflow = { std::max(overflow.left(), -box.left()), std::max(overflow.top(), -box.top()),
+            std::max(overflow.right(), box.right() - canvas.width()),
+            std::max(overflow.bottom(), box.bottom() - canvas.height()) };
+    }
+    return overflow;
 }

@@ -13,6 +13,7 @@
 #include "diagrams/drawing.h"
 
 #include <QColor>
+#include <QMarginsF>
 #include <QSizeF>
 
 class QPainter;
@@ -31,6 +32,8 @@ struct DiagramPainter {
     /// Paints the whole drawing. Texts may run over the edge of the canvas: clip where they
     /// mustn't.
     void draw(DiagramKind kind) const;
+    /// The drawing without its callouts, for sizes at which words are scraps.
+    void drawShapes(DiagramKind kind) const;
     void draw(const Diagrams::Shape &shape) const;
 
     void box(const Diagrams::Box &box) const;
@@ -52,3 +55,7 @@ struct DiagramPainter {
 private:
     void put(const QPainterPath &path, double fill, double width = Diagrams::kStroke) const;
 };
+
+/// How far the callouts of a drawing run over each edge of a canvas of this size, in points, as
+/// they are drawn there; 0 at an edge that none crosses.
+[[nodiscard]] QMarginsF calloutOverflow(DiagramKind kind, QSizeF canvas);

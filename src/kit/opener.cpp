@@ -12,15 +12,24 @@ std::function<void(const QUrl &)> &storedAction()
     return action;
 }
 
+bool leaves(const QUrl &address)
+{
+    return address.isValid() && !address.host().isEmpty()
+        && (address.scheme() == "https"_L1 || address.scheme() == "http"_L1);
+}
+
+QUrl addressIn(const QString &text)
+{
+    return QUrl(text, QUrl::StrictMode);
+}
+
 } // namespace
 
 namespace Opener {
 
 void open(const QUrl &address)
 {
-    const bool leaves = address.isValid() && !address.host().isEmpty()
-        && (address.scheme() == "https"_L1 || address.scheme() == "http"_L1);
-    if (!leaves)
+    if (!leaves(address))
         return;
     if (storedAction())
         storedAction()(address);
@@ -30,7 +39,13 @@ void open(const QUrl &address)
 
 void open(const QString &address)
 {
-    open(QUrl(address, QUrl::StrictMode));
+    open(addressIn(address));
+}
+
+QString destination(const QString &address)
+{
+    const QUrl url = addressIn(address);
+    return leaves(url) ? url.host() : QString();
 }
 
 void setAction(std::function<void(const QUrl &)> action)

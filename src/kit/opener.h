@@ -15,6 +15,9 @@ void open(const QUrl &address);
 /// The same for an address as a text; one that isn't an address does nothing.
 void open(const QString &address);
 
+/// The host that open() would lead to, such as "www.example.com"; empty for what stays here.
+[[nodiscard]] QString destination(const QString &address);
+
 /// What open() hands addresses to. An empty action puts the platform's browser back.
 void setAction(std::function<void(const QUrl &address)> action);
 

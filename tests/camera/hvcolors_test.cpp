@@ -179,6 +179,7 @@ TEST(Palette, LaysItsTintsThinlyOverWhatIsThere)
         { c.cardEdge(), c.glow(), 0.16f },
         { c.cardEdgeRaised(), c.glow(), 0.4f },
         { c.fieldEdge(), c.glow(), 0.3f },
+        { c.thread(), c.glow(), 0.25f },
         { c.halo(), c.glow(), 0.25f },
         { c.haloRaised(), c.glow(), 0.45f },
         { c.titleHalo(), c.glow(), 0.5f },

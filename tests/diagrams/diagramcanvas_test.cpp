@@ -2,6 +2,9 @@
 
 #include "diagrams/qml/diagramcanvas.h"
 
+#include "diagrams/diagramcatalogue.h"
+#include "diagrams/diagrampainter.h"
+
 #include "kit/preferences.h"
 #include "kit/printing.h"
 
@@ -207,4 +210,77 @@ TEST_F(DiagramCanvasTest, WithoutExtentShowsNothing)
     EXPECT_EQ(canvas->paints, 0);
     canvas->setSize({ 100, 65 });
     EXPECT_NE(frame(), empty);
+}
+
+TEST(DiagramCanvasLayout, FixedSizeKeepsTheDrawingsSizeAndItsCalloutsInside)
+{
+    for (const QString &kind : { u"tripod"_s, u"dslr"_s, u"film-35"_s, u"backpack"_s }) {
+        DiagramCanvas canvas;
+        canvas.setKind(kind);
+        canvas.setLayout(DiagramCanvas::FixedSize);
+        canvas.setDrawing({ 500, 325 });
+        const QMarginsF overflow = calloutOverflow(*diagramKindNamed(kind), canvas.drawing());
+        for (const qreal spare : { 0.0, 40.0, 300.0 }) {
+            const QSizeF item(500 + canvas.calloutReach() + spare, 325);
+            const QRectF drawing = canvas.canvasIn(item);
+            EXPECT_EQ(drawing.size(), canvas.drawing());
+            const QRectF needed = drawing.marginsAdded(overflow);
+            EXPECT_GE(needed.left(), -0.001) << qPrintable(kind);
+            EXPECT_LE(needed.right(), item.width() + 0.001) << qPrintable(kind);
+        }
+    }
+}
+
+TEST(DiagramCanvasLayout, FixedSizeStandsInTheMiddleWhereThereIsRoom)
+{
+    DiagramCanvas canvas;
+    canvas.setKind(u"tripod"_s);
+    canvas.setLayout(DiagramCanvas::FixedSize);
+    canvas.setDrawing({ 500, 325 });
+    EXPECT_EQ(canvas.canvasIn({ 1000, 325 }).center(), QPointF(500, 162.5));
+}
+
+TEST(DiagramCanvasLayout, WholeShowsEveryCalloutOfEveryDrawing)
+{
+    DiagramCanvas canvas;
+    canvas.setLayout(DiagramCanvas::Whole);
+    const QSizeF item(1000, 640);
+    for (const Diagrams::Drawing &drawing : Diagrams::catalogue()) {
+        canvas.setKind(rawValue(drawing.kind));
+        const QRectF area = canvas.canvasIn(item);
+        const QRectF needed = area.marginsAdded(calloutOverflow(drawing.kind, area.size()));
+        EXPECT_GE(needed.left(), -0.001) << int(drawing.kind);
+        EXPECT_LE(needed.right(), item.width() + 0.001) << int(drawing.kind);
+        EXPECT_GE(needed.top(), -0.001) << int(drawing.kind);
+        EXPECT_LE(needed.bottom(), item.height() + 0.001) << int(drawing.kind);
+    }
+}
+
+TEST(DiagramCanvasLayout, TellsWhatTheCalloutsSay)
+{
+    DiagramCanvas canvas;
+    canvas.setKind(u"tripod"_s);
+    QStringList texts;
+    for (const Diagrams::Callout &callout : Diagrams::drawing(DiagramKind::Tripod).callouts)
+        texts.append(callout.text);
+    EXPECT_FALSE(texts.isEmpty());
+    EXPECT_EQ(canvas.calloutTexts(), texts);
+}
+
+TEST_F(DiagramCanvasTest, ThumbnailsThatLookAlikeArePaintedOnce)
+{
+    // given: a hundred thumbnails of one kind, of one color that no other test uses
+    QList<CountingCanvas *> canvases;
+    for (int i = 0; i < 100; ++i) {
+        canvases.append(add(u"tripod"_s, { 10.0 * (i % 10), 3.0 * (i / 10), 42, 27 }));
+        canvases.last()->setLayout(DiagramCanvas::Thumbnail);
+        canvases.last()->setGlow(QColor(12, 200, 34));
+    }
+    // when: they are shown
+    (void)frame();
+    // then
+    int paints = 0;
+    for (const CountingCanvas *canvas : canvases)
+        paints += canvas->paints;
+    EXPECT_EQ(paints, 1);
 }

@@ -40,3 +40,13 @@ TEST_F(OpenerTest, KeepsEverythingElse)
         Opener::open(QString::fromUtf8(address));
     EXPECT_EQ(opened, QStringList());
 }
+
+TEST_F(OpenerTest, TellsTheHostOfWhatLeaves)
+{
+    EXPECT_EQ(Opener::destination(u"https://www.example.org:8080/tripods?legs=3"_s),
+        u"www.example.org"_s);
+    for (const char *address : { "", "no address", "file:///etc/passwd", "javascript:alert(1)",
+             "https://", "https://exa mple.org" })
+        EXPECT_EQ(Opener::destination(QString::fromUtf8(address)), QString());
+    EXPECT_EQ(opened, QStringList());
+}

@@ -98,12 +98,138 @@ level: Professional
 summary: Without a lesson.
 )";
 
+constexpr auto kTimeline = R"(=== EVENT digital
+year: 1991
+date: May 1991
+era: The digital era
+title: A camera without film
+---
+It weighed five kilograms.
+
+=== EVENT obscura
+year: 1015
+date: about 1015
+era: Pioneers
+title: The dark room
+source: An old book | https://books.example.org/obscura | 2026-10-24
+source: A rumor | not an address |
+---
+A hole sorts the light.
+
+=== EVENT later
+year: 2000
+era: Digital
+title: Everybody has one
+
+=== EVENT daguerre
+year: 1839
+date: 19 August 1839
+era: Pioneers
+title: The mirror with a memory
+---
+Silver and patience.
+)";
+
+constexpr auto kSoftware = R"(=== SOFTWARE darkroom
+name: Darkroom
+kind: Raw editor
+maker: The Bench
+url: https://darkroom.example.org/download
+platforms: Linux, macOS
+---
+Develops.
+
+=== SOFTWARE archive
+name: Archive
+kind: Catalog
+maker: Nobody
+platforms: Windows
+---
+Keeps.
+
+=== SOFTWARE lightbox
+name: Lightbox
+kind: Raw editor
+maker: The Bench
+url: file:///etc/passwd
+platforms: Linux
+---
+Shows.
+)";
+
+constexpr auto kWorkflow = R"(=== STEP load
+stage: Load
+film: Put a roll in.
+digital: Put a card in.
+
+=== STEP develop
+stage: Develop
+film: In a tank.
+digital: On a desk.
+)";
+
+QByteArray oddGear()
+{
+    QByteArray text = R"(=== GEAR tripod
+name: Tripod
+category: Supports
+diagram: tripod
+aka: three legs
+see: monopod, gone, fast-prime
+model: Stout 3 | for wind | 1.9 kg, carries 12 kg | https://www.stout.example.com/3?a=1 | 2026-10-24
+model: Feather | for walking | 0.9 kg | |
+---
+Three legs stand anywhere.
+
+=== GEAR monopod
+name: Monopod
+category: Supports
+diagram: monopod
+---
+One leg, where a tripod has no room.
+
+=== GEAR fast-prime
+name: Fast prime lens
+category: Lenses
+diagram: prime
+see: gone
+model: Nifty | for dusk | f/1.8 | not an address | 2026-10-24
+---
+Gathers light.
+
+=== GEAR bare
+name: Bare thing
+category: Odd
+
+=== GEAR crowded
+name: Crowded
+category: Odd
+diagram: sensor
+)";
+    for (int i = 0; i < 100; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        text += "model: Product " + number + " | use " + number + " | specs " + number
+            + " | https://example.com/" + number + " | 2026-10-24\n";
+    }
+    text += "---\nMany.\n\n=== GEAR long\ncategory: Odd\ndiagram: backpack\nname: "
+        + QByteArray("Unendinglylongword ").repeated(27).left(500)
+        + "\n---\nLong.\n\n=== GEAR arabic\ncategory: Odd\ndiagram: clamp\nname: حامل ثلاثي "
+          "القوائم\n"
+          "aka: حامل\nmodel: حامل ١ | للريح | ١٫٩ كغ | https://example.com/a | 2026-10-24\n"
+          "---\nثلاث أرجل.\n\n=== GEAR accents\ncategory: Odd\ndiagram: loupe\n"
+          "name: Ĺ̇̃̂̄̈o̊̂̄̈̀u̇̃̂̄̈́p̂̄̈̀e̊̂̄̈̀\n---\nMärked.\n";
+    return text;
+}
+
 TestCourse::Files filesOf(CourseTesting::Course course)
 {
     switch (course) {
     case CourseTesting::Course::Small:
         return { { u"course.txt"_s, kCourse }, { u"quizzes.txt"_s, kQuizzes },
             { u"gear.txt"_s, kGear }, { u"videos.tsv"_s, kVideos } };
+    case CourseTesting::Course::Library:
+        return { { u"gear.txt"_s, oddGear() }, { u"timeline.txt"_s, kTimeline },
+            { u"software.txt"_s, kSoftware }, { u"workflows.txt"_s, kWorkflow } };
     case CourseTesting::Course::Bare:
         return { { u"course.txt"_s, kBareCourse } };
     case CourseTesting::Course::Empty:

@@ -17,8 +17,18 @@ namespace CourseTesting {
 /// The last lesson, stray, belongs to a module that isn't there. Of l1's two gear ids and two video
 /// ids the first names something and the second nothing; l2's name nothing at all.
 ///
+/// Library has gear, a timeline and programs, among them what no editor would write:
+///   gear      tripod (Supports, two examples), monopod (Supports; its text names a tripod),
+///             fast-prime (Lenses), and the odd ones: bare (Odd; no text, no drawing, no example),
+///             crowded (100 examples), long (a name of 500 characters), arabic (from right to
+///             left), accents (letters with many marks)
+///   timeline  digital (1991, The digital era), obscura (1015, Pioneers), later (2000, Digital),
+///             daguerre (1839, Pioneers)
+///   software  darkroom, lightbox (Raw editor), archive (Catalog; no address)
+///   workflow  load, develop
+///
 /// Bare has one module without lessons, Empty has no file at all.
-enum class Course { Small, Bare, Empty };
+enum class Course { Small, Library, Bare, Empty };
 
 /// While it lives, the shared course and the shared progress file are its own, and AppModel is as
 /// at launch. Preferences live in memory and hold neither theme nor zoom. Afterwards no progress

@@ -1,6 +1,7 @@
 #include "screens/quickworld.h"
 
 #include "content/contentlibrary.h"
+#include "kit/opener.h"
 #include "kit/preferences.h"
 #include "kit/themes.h"
 #include "shell/appmodel.h"
@@ -20,6 +21,7 @@ using CourseTesting::Course;
 using CourseTesting::World;
 
 std::unique_ptr<World> QuickWorld::s_world;
+QStringList QuickWorld::s_visited;
 
 namespace {
 
@@ -32,11 +34,18 @@ Course courseNamed(const QString &name)
 {
     if (name == "small"_L1)
         return Course::Small;
+    if (name == "library"_L1)
+        return Course::Library;
     if (name == "bare"_L1)
         return Course::Bare;
     if (name == "empty"_L1)
         return Course::Empty;
     qFatal("There is no such course among those of the tests.");
+}
+
+AppModel::OptionalText orNothing(const QString &id)
+{
+    return id.isEmpty() ? AppModel::OptionalText() : id;
 }
 
 QString orNone(const AppModel::OptionalText &id)
@@ -64,6 +73,8 @@ void QuickWorld::begin(const QString &course, bool withStore)
     Preferences::shared().remove(u"crvn.frame.main"_s);
     s_world = std::make_unique<World>(
         courseNamed(course), withStore ? World::Store::Fresh : World::Store::None);
+    s_visited.clear();
+    Opener::setAction([](const QUrl &address) { s_visited.append(address.toString()); });
 }
 
 void QuickWorld::finish(const QStringList &lessons)
@@ -112,6 +123,31 @@ QString QuickWorld::quizModuleID() const
 QString QuickWorld::gearID() const
 {
     return orNone(model().gearID());
+}
+
+QString QuickWorld::eventID() const
+{
+    return orNone(model().eventID());
+}
+
+void QuickWorld::chooseGear(const QString &id)
+{
+    model().setGearID(orNothing(id));
+}
+
+void QuickWorld::chooseEvent(const QString &id)
+{
+    model().setEventID(orNothing(id));
+}
+
+void QuickWorld::chooseSoftware(const QString &id)
+{
+    model().setSoftwareID(orNothing(id));
+}
+
+QStringList QuickWorld::visitedAddresses() const
+{
+    return s_visited;
 }
 
 QString QuickWorld::videoID() const

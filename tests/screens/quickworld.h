@@ -21,8 +21,8 @@ public:
     static void registerType();
     static void end();
 
-    /// Begins with the course "small", "bare" or "empty" and a fresh progress file, or without
-    /// one. No screen may exist while this is called.
+    /// Begins with the course "small", "library", "bare" or "empty" and a fresh progress file, or
+    /// without one. No screen may exist while this is called.
     Q_INVOKABLE void begin(const QString &course = QStringLiteral("small"), bool withStore = true);
 
     Q_INVOKABLE void finish(const QStringList &lessons);
@@ -36,7 +36,14 @@ public:
     Q_INVOKABLE [[nodiscard]] QString lessonID() const;
     Q_INVOKABLE [[nodiscard]] QString quizModuleID() const;
     Q_INVOKABLE [[nodiscard]] QString gearID() const;
+    Q_INVOKABLE [[nodiscard]] QString eventID() const;
     Q_INVOKABLE [[nodiscard]] QString videoID() const;
+    /// Selects; an empty id takes the selection back.
+    Q_INVOKABLE void chooseGear(const QString &id);
+    Q_INVOKABLE void chooseEvent(const QString &id);
+    Q_INVOKABLE void chooseSoftware(const QString &id);
+    /// What has been handed to the browser, in order.
+    Q_INVOKABLE [[nodiscard]] QStringList visitedAddresses() const;
     Q_INVOKABLE void showQuiz(const QString &moduleID);
     Q_INVOKABLE void tell(const QString &message);
     /// Type and id of the target of the note that is being written.
@@ -77,6 +84,7 @@ public:
 
 private:
     static std::unique_ptr<CourseTesting::World> s_world;
+    static QStringList s_visited;
 };
 
 /// The set-up of a program whose tests show screens.

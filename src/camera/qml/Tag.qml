@@ -23,6 +23,8 @@ ContinuousRectangle {
     MuteHvText {
         id: label
         anchors.centerIn: parent
+        width: Math.min(implicitWidth, root.width - 14)
+        elide: Text.ElideRight
         text: root.text.toUpperCase()
         color: root.color
         font: Type.tag

@@ -25,6 +25,13 @@ Item {
         field.selectAll();
     }
 
+    /*! Goes on with the search by what was typed elsewhere. */
+    function typeOn(typed: string): void {
+        field.forceActiveFocus(Qt.ShortcutFocusReason);
+        root.edited(root.text + typed);
+        field.cursorPosition = field.length;
+    }
+
     onTextChanged: if (field.text !== root.text) field.text = root.text
 
     implicitWidth: 220

@@ -40,6 +40,8 @@ class Type : public QObject
     Q_PROPERTY(QFont topic MEMBER topic CONSTANT)
     Q_PROPERTY(QFont currentTopic MEMBER currentTopic CONSTANT)
     Q_PROPERTY(QFont rowTitle MEMBER rowTitle CONSTANT)
+    Q_PROPERTY(QFont selectedRowTitle MEMBER selectedRowTitle CONSTANT)
+    Q_PROPERTY(QFont rowDetail MEMBER rowDetail CONSTANT)
     Q_PROPERTY(QFont noteTarget MEMBER noteTarget CONSTANT)
     Q_PROPERTY(QFont date MEMBER date CONSTANT)
     Q_PROPERTY(QFont field MEMBER field CONSTANT)
@@ -56,6 +58,7 @@ class Type : public QObject
     Q_PROPERTY(QFont number MEMBER number CONSTANT)
     Q_PROPERTY(QFont count MEMBER count CONSTANT)
     Q_PROPERTY(QFont dialFigure MEMBER dialFigure CONSTANT)
+    Q_PROPERTY(QFont dateline MEMBER dateline CONSTANT)
     Q_PROPERTY(QFont scaleFigure MEMBER scaleFigure CONSTANT)
     Q_PROPERTY(QFont rowFigure MEMBER rowFigure CONSTANT)
     Q_PROPERTY(QFont columnHead MEMBER columnHead CONSTANT)
@@ -89,6 +92,8 @@ public:
     const QFont detail = Fonts::rounded(11);
     const QFont strongDetail = Fonts::rounded(11, QFont::DemiBold);
     const QFont rowTitle = Fonts::rounded(12.5, QFont::DemiBold);
+    const QFont selectedRowTitle = Fonts::rounded(12.5, QFont::ExtraBold);
+    const QFont rowDetail = Fonts::rounded(10);
     const QFont noteTarget = Fonts::rounded(11.5, QFont::Bold);
     const QFont date = Fonts::rounded(10.5);
 
@@ -116,6 +121,7 @@ public:
     const QFont number = Fonts::monospaced(13, QFont::ExtraBold);
     const QFont count = Fonts::monospaced(11, QFont::Bold);
     const QFont dialFigure = Fonts::monospaced(12, QFont::ExtraBold);
+    const QFont dateline = Fonts::monospaced(13);
     const QFont scaleFigure = Fonts::monospaced(10, QFont::Bold);
 
     // Tables.

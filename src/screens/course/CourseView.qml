@@ -17,32 +17,16 @@ FocusScope {
     CourseReading {
         id: reading
     }
-    Item {
-        x: -Geometry.displayPadding
-        y: -Geometry.displayPadding
-        width: metrics.contentsWidth + Geometry.displayPadding
-        height: root.height + 2 * Geometry.displayPadding
-        clip: true
-        // Wider than what shows, so that only the corners at the display's edge are round.
-        Rectangle {
-            width: parent.width + radius
-            height: parent.height
-            radius: Geometry.displayRadius
-            color: root.c.contents
-        }
-    }
-    CourseContents {
+    SidePane {
         width: metrics.contentsWidth
         height: root.height
         c: root.c
-        onChosen: pane.forceActiveFocus()
-    }
-    Rectangle {
-        x: metrics.contentsWidth
-        y: -Geometry.displayPadding
-        width: 1
-        height: root.height + 2 * Geometry.displayPadding
-        color: root.c.divider
+
+        CourseContents {
+            anchors.fill: parent
+            c: root.c
+            onChosen: pane.forceActiveFocus()
+        }
     }
     Loader {
         id: pane

@@ -178,6 +178,42 @@ class Walk(unittest.TestCase):
             act(self.get("push button", after), "Press")
             self.get("push button", before)
 
+    def check_links(self, beginning):
+        """Links that show begin so and lead somewhere."""
+        links = [node for node in everything(self.app) if node.getRoleName() == "link"
+                 and has(node, pyatspi.STATE_SHOWING)]
+        self.assertTrue(links)
+        for link in links:
+            self.assertTrue(link.name.startswith(beginning), link.name)
+            self.assertIn(".", link.description, link.name)
+
+    def test_an_entry_of_the_encyclopedia_is_opened_and_its_drawing_enlarged(self):
+        self.go("Gear Encyclopedia")
+        act(self.get("push button", "DSLR, Cameras"), "Press")
+        self.get("heading", "DSLR")
+        self.check_names("an entry of the encyclopedia")
+        self.check_links("Maker's page, ")
+        act(self.get("push button", "Diagram: DSLR"), "Press")
+        self.get("dialog", "DSLR")
+        self.check_names("a drawing")
+        act(self.get("push button", "Close"), "Press")
+        self.gone("dialog", "DSLR")
+
+    def test_an_event_of_the_history_is_opened(self):
+        self.go("History")
+        act(self.get("push button", "1558, Della Porta makes the camera obscura popular"), "Press")
+        self.get("heading", "Della Porta makes the camera obscura popular")
+        self.check_names("an event")
+        self.check_links("")
+
+    def test_the_workflows_are_read(self):
+        self.go("Workflows & Software")
+        self.get("heading", "Workflows & Software")
+        self.get("heading", "darktable")
+        self.get("label", "1. Prepare the camera")
+        self.check_names("the workflows")
+        self.check_links("Visit ")
+
     def test_a_scroll_bar_goes_where_it_is_set(self):
         bar = self.get("scroll bar", "Vertical scroll bar")
         value = bar.queryValue()
