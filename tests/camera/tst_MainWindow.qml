@@ -108,7 +108,8 @@ TestCase {
             verify(String(screen).startsWith(type + "_"), button.label);
             compare(screen.width, part("ScreenView").width, button.label);
             compare(screen.height, part("ScreenView").height, button.label);
-            verify(Find.texts(screen).length > 0, button.label);
+            // The small course has no history, of which nothing is shown.
+            verify(AppModel.screen === HVScreen.History || Find.texts(screen).length > 0, button.label);
             verify(Find.text(part("TopPlate"), "MEDIUM FORMAT · 6×4.5 · " + button.label.toUpperCase()));
             seen.push(button.label);
         }
