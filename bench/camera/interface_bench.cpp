@@ -7,7 +7,7 @@
 // whole run. Full-size course, 1440 × 948 window, offscreen, software scene graph.
 
 #include "support/busyclock.h"
-#include "support/fullcourse.h"
+#include "support/realwindow.h"
 
 #include "content/contentlibrary.h"
 #include "kit/help.h"
@@ -28,14 +28,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 HalvorinApp *g_app = nullptr;
-
-// Lets everything that is still under way come to rest: animations, delayed calls.
-void settle()
-{
-    QEventLoop loop;
-    QTimer::singleShot(350, &loop, &QEventLoop::quit);
-    loop.exec();
-}
 
 template <typename Change>
 void measure(benchmark::State &state, const Change &change)
@@ -148,14 +140,7 @@ BENCHMARK(BM_Zoom)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(2
 int main(int argc, char **argv)
 {
     benchmark::Initialize(&argc, argv);
-    // Nothing of the user's is read or written.
-    const QTemporaryDir home;
-    const FullCourse course;
-    qputenv("HV_CONTENT", course.path().toLocal8Bit());
-    for (const char *name : { "HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR" })
-        qputenv(name, home.path().toLocal8Bit());
-    if (!qEnvironmentVariableIsSet("DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const BenchHome home;
 
     HalvorinApp app(argc, argv);
     g_app = &app;

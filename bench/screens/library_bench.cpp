@@ -6,7 +6,7 @@
 // a letter in the search to the frame that shows the list, 50 ms. 1440 × 948 window, offscreen,
 // software scene graph.
 
-#include "support/fullcourse.h"
+#include "support/realwindow.h"
 
 #include "content/contentlibrary.h"
 #include "shell/appmodel.h"
@@ -72,34 +72,14 @@ void useCourse(int entries)
     ContentLibrary::setShared(std::move(library));
 }
 
-void settle()
-{
-    QEventLoop loop;
-    QTimer::singleShot(350, &loop, &QEventLoop::quit);
-    loop.exec();
-}
-
-template <typename Change>
-double secondsToFrame(const Change &change)
-{
-    QEventLoop loop;
-    const auto frame
-        = QObject::connect(g_app->window(), &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit);
-    QElapsedTimer clock;
-    clock.start();
-    change();
-    loop.exec();
-    QObject::disconnect(frame);
-    return double(clock.nsecsElapsed()) * 1e-9;
-}
-
 void open(benchmark::State &state, Screen screen)
 {
     double longest = 0;
     for (auto _ : state) {
         AppModel::shared().setScreen(Screen::Home);
         settle();
-        const double seconds = secondsToFrame([&] { AppModel::shared().setScreen(screen); });
+        const double seconds
+            = secondsToFrame(g_app->window(), [&] { AppModel::shared().setScreen(screen); });
         state.SetIterationTime(seconds);
         longest = std::max(longest, seconds * 1e3);
     }
@@ -128,7 +108,7 @@ void scroll(benchmark::State &state, Screen screen, QPointF place)
     int step = 0;
     for (auto _ : state) {
         const int turn = step++ / 60 % 2 ? 120 : -120; // there and back: each step moves
-        const double seconds = secondsToFrame([&] {
+        const double seconds = secondsToFrame(g_app->window(), [&] {
             QWheelEvent wheel(place, place, {}, { 0, turn }, Qt::NoButton, Qt::NoModifier,
                 Qt::NoScrollPhase, false);
             QCoreApplication::sendEvent(g_app->window(), &wheel);
@@ -165,7 +145,7 @@ void BM_SearchGear(benchmark::State &state)
     double longest = 0;
     int step = 0;
     for (auto _ : state) {
-        const double seconds = secondsToFrame(
+        const double seconds = secondsToFrame(g_app->window(),
             [&] { AppModel::shared().setGearQuery(words.left(++step % (words.size() + 1))); });
         state.SetIterationTime(seconds);
         longest = std::max(longest, seconds * 1e3);

@@ -4,7 +4,7 @@
 // of a display for each step of the wheel, 16 ms. 1440 × 948 window, offscreen, software scene
 // graph.
 
-#include "support/fullcourse.h"
+#include "support/realwindow.h"
 
 #include "shell/appmodel.h"
 #include "shell/launch/halvorinapp.h"
@@ -40,34 +40,13 @@ void fill(const QString &path)
     });
 }
 
-// Lets everything that is still under way come to rest: animations, delayed calls.
-void settle()
-{
-    QEventLoop loop;
-    QTimer::singleShot(350, &loop, &QEventLoop::quit);
-    loop.exec();
-}
-
-template <typename Change>
-double secondsToFrame(const Change &change)
-{
-    QEventLoop loop;
-    const auto frame
-        = QObject::connect(g_app->window(), &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit);
-    QElapsedTimer clock;
-    clock.start();
-    change();
-    loop.exec();
-    QObject::disconnect(frame);
-    return double(clock.nsecsElapsed()) * 1e-9;
-}
-
 void BM_OpenNotes(benchmark::State &state)
 {
     for (auto _ : state) {
         AppModel::shared().setScreen(Screen::Home);
         settle();
-        state.SetIterationTime(secondsToFrame([] { AppModel::shared().setScreen(Screen::Notes); }));
+        state.SetIterationTime(
+            secondsToFrame(g_app->window(), [] { AppModel::shared().setScreen(Screen::Notes); }));
     }
 }
 BENCHMARK(BM_OpenNotes)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(20);
@@ -79,7 +58,7 @@ void BM_ScrollNotes(benchmark::State &state)
     const QPointF place(800, 600);
     double longest = 0;
     for (auto _ : state) {
-        const double seconds = secondsToFrame([&] {
+        const double seconds = secondsToFrame(g_app->window(), [&] {
             QWheelEvent wheel(place, place, {}, { 0, -120 }, Qt::NoButton, Qt::NoModifier,
                 Qt::NoScrollPhase, false);
             QCoreApplication::sendEvent(g_app->window(), &wheel);
@@ -96,14 +75,7 @@ BENCHMARK(BM_ScrollNotes)->UseManualTime()->Unit(benchmark::kMillisecond)->Itera
 int main(int argc, char **argv)
 {
     benchmark::Initialize(&argc, argv);
-    // Nothing of the user's is read or written.
-    const QTemporaryDir home;
-    const FullCourse course;
-    qputenv("HV_CONTENT", course.path().toLocal8Bit());
-    for (const char *name : { "HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR" })
-        qputenv(name, home.path().toLocal8Bit());
-    if (!qEnvironmentVariableIsSet("DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const BenchHome home;
 
     HalvorinApp app(argc, argv);
     g_app = &app;

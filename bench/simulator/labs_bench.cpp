@@ -10,7 +10,7 @@
 // two rests of the event loop. Window of 1440 × 948; offscreen with the software scene graph,
 // unless there is a DISPLAY.
 #include "support/busyclock.h"
-#include "support/fullcourse.h"
+#include "support/realwindow.h"
 
 #include "shell/appmodel.h"
 #include "shell/launch/halvorinapp.h"
@@ -289,14 +289,7 @@ BENCHMARK(BM_RenewThumbnails)->UseManualTime()->Unit(kUnit)->Iterations(100)->Ar
 int main(int argc, char **argv)
 {
     benchmark::Initialize(&argc, argv);
-    // Nothing of the user's is read or written.
-    const QTemporaryDir home;
-    const FullCourse course;
-    qputenv("HV_CONTENT", course.path().toLocal8Bit());
-    for (const char *name : { "HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR" })
-        qputenv(name, home.path().toLocal8Bit());
-    if (!qEnvironmentVariableIsSet("DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const BenchHome home;
 
     HalvorinApp app(argc, argv);
     g_app = &app;

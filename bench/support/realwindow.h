@@ -1,0 +1,52 @@
+// What the benchmarks have in common that drive the real window.
+#pragma once
+
+#include "support/fullcourse.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+#include <QTimer>
+
+/// A home of its own with the full course, for as long as this exists: nothing of the user's is
+/// read or written. To be made before the program; without a display that is offscreen.
+class BenchHome
+{
+public:
+    BenchHome()
+    {
+        qputenv("HV_CONTENT", m_course.path().toLocal8Bit());
+        for (const char *name : { "HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR" })
+            qputenv(name, m_home.path().toLocal8Bit());
+        if (!qEnvironmentVariableIsSet("DISPLAY"))
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+
+private:
+    const QTemporaryDir m_home;
+    const FullCourse m_course;
+};
+
+/// Lets everything that is still under way come to rest: animations, delayed calls.
+inline void settle()
+{
+    QEventLoop loop;
+    QTimer::singleShot(350, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+/// From `change` to the end of the window's next frame.
+template <typename Change>
+double secondsToFrame(QQuickWindow *window, const Change &change)
+{
+    QEventLoop loop;
+    const auto frame
+        = QObject::connect(window, &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit);
+    QElapsedTimer clock;
+    clock.start();
+    change();
+    loop.exec();
+    QObject::disconnect(frame);
+    return double(clock.nsecsElapsed()) * 1e-9;
+}
