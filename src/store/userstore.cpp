@@ -107,6 +107,37 @@ qint64 number(const SQLRow &row, const QString &column)
     return row.integer(column).value_or(0);
 }
 
+QuizResult quizResult(const SQLRow &row)
+{
+    return { .id = number(row, u"id"_s),
+        .moduleID = row.str(u"module_id"_s),
+        .score = int(number(row, u"score"_s)),
+        .total = int(number(row, u"total"_s)),
+        .taken = moment(row, u"taken"_s) };
+}
+
+Bookmark bookmark(const SQLRow &row)
+{
+    return { .targetType = row.str(u"target_type"_s),
+        .targetID = row.str(u"target_id"_s),
+        .created = moment(row, u"created"_s) };
+}
+
+Note savedNote(const SQLRow &row)
+{
+    return { .id = number(row, u"id"_s),
+        .targetType = row.str(u"target_type"_s),
+        .targetID = row.str(u"target_id"_s),
+        .body = row.str(u"body"_s),
+        .created = moment(row, u"created"_s),
+        .updated = moment(row, u"updated"_s) };
+}
+
+NoteStamp noteStamp(const SQLRow &row)
+{
+    return { .id = number(row, u"id"_s), .updated = moment(row, u"updated"_s) };
+}
+
 double shareOfRightAnswers(const QuizResult &result)
 {
     return double(result.score) / std::max(result.total, 1);
@@ -164,21 +195,10 @@ void UserStore::saveQuiz(const QString &moduleID, int score, int total, const QD
 
 QList<QuizResult> UserStore::quizResults(const std::optional<QString> &moduleID) const
 {
-    const QList<SQLRow> found = moduleID
-        ? rows(
-            u"SELECT * FROM quiz_results WHERE module_id = ? ORDER BY taken DESC"_s, { moduleID })
-        : rows(u"SELECT * FROM quiz_results ORDER BY taken DESC"_s);
-
-    QList<QuizResult> results;
-    results.reserve(found.size());
-    for (const SQLRow &row : found) {
-        results.append({ .id = number(row, u"id"_s),
-            .moduleID = row.str(u"module_id"_s),
-            .score = int(number(row, u"score"_s)),
-            .total = int(number(row, u"total"_s)),
-            .taken = moment(row, u"taken"_s) });
-    }
-    return results;
+    if (!moduleID)
+        return records(quizResult, u"SELECT * FROM quiz_results ORDER BY taken DESC"_s);
+    return records(quizResult,
+        u"SELECT * FROM quiz_results WHERE module_id = ? ORDER BY taken DESC"_s, { *moduleID });
 }
 
 std::optional<QuizResult> UserStore::bestScore(const QString &moduleID) const
@@ -191,16 +211,7 @@ std::optional<QuizResult> UserStore::bestScore(const QString &moduleID) const
 
 QList<Bookmark> UserStore::bookmarks() const
 {
-    const QList<SQLRow> found = rows(u"SELECT * FROM bookmarks ORDER BY created DESC"_s);
-
-    QList<Bookmark> bookmarks;
-    bookmarks.reserve(found.size());
-    for (const SQLRow &row : found) {
-        bookmarks.append({ .targetType = row.str(u"target_type"_s),
-            .targetID = row.str(u"target_id"_s),
-            .created = moment(row, u"created"_s) });
-    }
-    return bookmarks;
+    return records(bookmark, u"SELECT * FROM bookmarks ORDER BY created DESC"_s);
 }
 
 bool UserStore::isBookmarked(const QString &targetType, const QString &targetID) const
@@ -226,27 +237,22 @@ void UserStore::setBookmark(const QString &targetType, const QString &targetID, 
 QList<Note> UserStore::notes(
     const std::optional<QString> &targetType, const std::optional<QString> &targetID) const
 {
-    const bool isTied = targetType && targetID;
-    const QString sql = isTied
-        ? u"SELECT * FROM notes WHERE target_type = ? AND target_id = ? ORDER BY updated DESC"_s
-        : u"SELECT * FROM notes ORDER BY updated DESC"_s;
-    const QList<SQLValue> arguments
-        = isTied ? QList<SQLValue>{ *targetType, *targetID } : QList<SQLValue>();
+    if (!targetType || !targetID)
+        return records(savedNote, u"SELECT * FROM notes ORDER BY updated DESC"_s);
+    return records(savedNote,
+        u"SELECT * FROM notes WHERE target_type = ? AND target_id = ? ORDER BY updated DESC"_s,
+        { *targetType, *targetID });
+}
 
-    QList<Note> notes;
-    try {
-        m_db.each(sql, arguments, [&notes](const SQLRow &row) {
-            notes.append({ .id = number(row, u"id"_s),
-                .targetType = row.str(u"target_type"_s),
-                .targetID = row.str(u"target_id"_s),
-                .body = row.str(u"body"_s),
-                .created = moment(row, u"created"_s),
-                .updated = moment(row, u"updated"_s) });
-        });
-    } catch (const HVError &) {
-        return {}; // as in rows()
-    }
-    return notes;
+QList<NoteStamp> UserStore::noteStamps() const
+{
+    return records(noteStamp, u"SELECT id, updated FROM notes ORDER BY updated DESC"_s);
+}
+
+std::optional<Note> UserStore::note(qint64 id) const
+{
+    const QList<Note> found = records(savedNote, u"SELECT * FROM notes WHERE id = ?"_s, { id });
+    return found.isEmpty() ? std::nullopt : std::optional(found.constFirst());
 }
 
 void UserStore::save(Note &note)
@@ -279,13 +285,23 @@ void UserStore::deleteNote(qint64 id)
     raiseRevision();
 }
 
-QList<SQLRow> UserStore::rows(const QString &sql, const QList<SQLValue> &arguments) const
+template <typename Record>
+QList<Record> UserStore::records(
+    Record make(const SQLRow &), const QString &sql, const QList<SQLValue> &arguments) const
 {
+    QList<Record> all;
     try {
-        return m_db.query(sql, arguments);
+        m_db.each(sql, arguments, [&](const SQLRow &row) { all.append(make(row)); });
     } catch (const HVError &) {
         return {}; // every caller is a display, and an empty one still lets the user write
     }
+    return all;
+}
+
+QList<SQLRow> UserStore::rows(const QString &sql) const
+{
+    return records(
+        +[](const SQLRow &row) { return row; }, sql);
 }
 
 qint64 UserStore::write(const QString &sql, const QList<SQLValue> &arguments)

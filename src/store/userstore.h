@@ -37,6 +37,14 @@ struct Note {
     friend bool operator==(const Note &, const Note &) = default;
 };
 
+/// What there is to know of a note before it is in sight.
+struct NoteStamp {
+    qint64 id = 0;
+    QDateTime updated;
+
+    friend bool operator==(const NoteStamp &, const NoteStamp &) = default;
+};
+
 struct Bookmark {
     QString targetType;
     QString targetID;
@@ -108,6 +116,13 @@ public:
     [[nodiscard]] QList<Note> notes(const std::optional<QString> &targetType = std::nullopt,
         const std::optional<QString> &targetID = std::nullopt) const;
 
+    /// The stamps of all notes in the order of notes(), for a list that reads a note when it comes
+    /// into sight: of 50,000 notes the words take ten times as long.
+    [[nodiscard]] QList<NoteStamp> noteStamps() const;
+
+    /// The note with this id.
+    [[nodiscard]] std::optional<Note> note(qint64 id) const;
+
     /// Saves a note as new if its id is 0, else the body of the note with that id. The body loses
     /// the blanks and line ends at both its ends. Afterwards `note` has the id, body and date of
     /// change that stand in the file, and a new one its date of creation too; an older one keeps
@@ -138,8 +153,11 @@ Q_SIGNALS:
     void revisionChanged();
 
 private:
-    [[nodiscard]] QList<SQLRow> rows(
-        const QString &sql, const QList<SQLValue> &arguments = {}) const;
+    /// Each row of a statement as a record; none at all if it fails.
+    template <typename Record>
+    [[nodiscard]] QList<Record> records(Record make(const SQLRow &), const QString &sql,
+        const QList<SQLValue> &arguments = {}) const;
+    [[nodiscard]] QList<SQLRow> rows(const QString &sql) const;
     /// Runs a statement that writes, unless the file is no longer where it was.
     qint64 write(const QString &sql, const QList<SQLValue> &arguments);
     void raiseRevision();

@@ -5,6 +5,7 @@
 #include "store/userstore.h"
 
 #include "support/filesizelimit.h"
+#include "support/ordinaryuser.h"
 
 #include <QFile>
 
@@ -103,6 +104,21 @@ TEST_F(Adversity, AWriteGivesUpOnAProcessThatKeepsTheFileAndSucceedsAfterIt)
     EXPECT_TRUE(other.remainingLines().isEmpty());
     store->save(note);
     EXPECT_EQ(stored(), (QStringList{ u"Before"_s, u"Patient"_s }));
+}
+
+TEST_F(Adversity, AFileThatTurnsReadOnlyWhileItIsOpenKeepsWhatIsWritten)
+{
+    save(u"Before"_s);
+    constexpr auto readable = QFile::ReadOwner | QFile::ReadGroup;
+    QFile::setPermissions(folder.path(), readable | QFile::ExeOwner | QFile::ExeGroup);
+    for (const QString &name : QStringList{ path(), path() + "-wal"_L1, path() + "-shm"_L1 })
+        QFile::setPermissions(name, readable);
+    {
+        const OrdinaryUser user;
+        save(u"After"_s);
+    }
+    QFile::setPermissions(folder.path(), readable | QFile::WriteOwner | QFile::ExeOwner);
+    EXPECT_EQ(stored(), (QStringList{ u"Before"_s, u"After"_s }));
 }
 
 TEST_F(Adversity, NothingIsCalledSavedInAFileThatWasDeleted)

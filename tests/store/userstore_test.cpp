@@ -548,6 +548,14 @@ TEST_F(UserStoreTest, ListsNotesOfOneTargetOrAllTheLastChangedFirst)
     EXPECT_EQ(bodies(store.notes(u"video"_s, u"m01.1"_s)), QString());
     EXPECT_EQ(bodies(store.notes(u"lesson"_s)), u"badc"_s);
     EXPECT_EQ(bodies(store.notes(std::nullopt, u"m01.1"_s)), u"badc"_s);
+
+    QList<Note> oneByOne;
+    for (const NoteStamp &stamp : store.noteStamps()) {
+        oneByOne.append(store.note(stamp.id).value());
+        EXPECT_EQ(oneByOne.last().updated, stamp.updated);
+    }
+    EXPECT_EQ(oneByOne, store.notes());
+    EXPECT_FALSE(store.note(0));
 }
 
 TEST_F(UserStoreTest, ReadsNothingFromTablesThatAreGone)
@@ -562,6 +570,8 @@ TEST_F(UserStoreTest, ReadsNothingFromTablesThatAreGone)
     EXPECT_FALSE(store.isBookmarked(u"gear"_s, u"tripod"_s));
     EXPECT_TRUE(store.notes().isEmpty());
     EXPECT_TRUE(store.notes(u"gear"_s, u"tripod"_s).isEmpty());
+    EXPECT_TRUE(store.noteStamps().isEmpty());
+    EXPECT_FALSE(store.note(1));
 }
 
 TEST_F(UserStoreTest, FailsWritesToTablesThatAreGoneAndAnnouncesNothing)

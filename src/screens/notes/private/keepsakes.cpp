@@ -10,7 +10,7 @@ Keepsakes::Keepsakes(QObject *parent)
 {
     if (const UserStore *store = UserStore::shared()) {
         m_bookmarks = store->bookmarks();
-        m_notes = store->notes();
+        m_notes = store->noteStamps();
     }
     show();
     followStore(this, &Keepsakes::read);
@@ -23,19 +23,20 @@ QString Keepsakes::bookmarksCaption() const
 
 void Keepsakes::open(int row) const
 {
-    const qsizetype note = row - m_bookmarks.size() - 1;
+    const qsizetype place = row - m_bookmarks.size() - 1;
     if (row >= 0 && row < m_bookmarks.size()) {
         const Bookmark &bookmark = m_bookmarks.at(row);
         AppModel::shared().openTarget(bookmark.targetType, bookmark.targetID);
-    } else if (note >= 0 && note < m_notes.size()) {
-        AppModel::shared().openTarget(m_notes.at(note).targetType, m_notes.at(note).targetID);
+    } else if (place >= 0 && place < m_notes.size()) {
+        const Note target = note(place);
+        AppModel::shared().openTarget(target.targetType, target.targetID);
     }
 }
 
 void Keepsakes::read()
 {
     const QList<Bookmark> bookmarks = UserStore::shared()->bookmarks();
-    const QList<Note> notes = UserStore::shared()->notes();
+    const QList<NoteStamp> notes = UserStore::shared()->noteStamps();
     // A write about something else leaves the list where the user has scrolled it.
     if (bookmarks == m_bookmarks && notes == m_notes)
         return;
@@ -43,6 +44,12 @@ void Keepsakes::read()
     m_notes = notes;
     show();
     Q_EMIT bookmarkCountChanged();
+}
+
+Note Keepsakes::note(qsizetype place) const
+{
+    const UserStore *store = UserStore::shared();
+    return store ? store->note(m_notes.at(place).id).value_or(Note()) : Note();
 }
 
 QString Keepsakes::title(Row row) const
@@ -53,8 +60,10 @@ QString Keepsakes::title(Row row) const
             m_bookmarks.at(row.place).targetType, m_bookmarks.at(row.place).targetID);
     case CaptionRow:
         return tr("ALL NOTES (%1)").arg(m_notes.size());
-    case NoteRow:
-        return targetTitle(m_notes.at(row.place).targetType, m_notes.at(row.place).targetID);
+    case NoteRow: {
+        const Note target = note(row.place);
+        return targetTitle(target.targetType, target.targetID);
+    }
     }
     Q_UNREACHABLE();
 }
@@ -71,7 +80,7 @@ void Keepsakes::show()
 
     const auto ofNote = [this](const auto &text) {
         return [this, text](const Row &row) {
-            return row.kind == NoteRow ? QString(text(m_notes.at(row.place))) : QString();
+            return row.kind == NoteRow ? QString(text(note(row.place))) : QString();
         };
     };
     showRows<Row>(rows,

@@ -9,7 +9,8 @@
 /// the notes, the last changed first. Roles `kind`, `title`, `body` and `changed`; a bookmark has a
 /// title, and the caption is one.
 ///
-/// One list, because there may be thousands of either, and a list makes only what is in sight.
+/// One list, because there may be thousands of either, and a list makes only what is in sight. For
+/// the same reason a note is read when its row is shown.
 class Keepsakes : public RowModel
 {
     Q_OBJECT
@@ -44,10 +45,12 @@ private:
         qsizetype place = 0;
     };
 
+    /// A note that is gone by now, or can't be read, has nothing to show.
+    [[nodiscard]] Note note(qsizetype place) const;
     [[nodiscard]] QString title(Row row) const;
     void read();
     void show();
 
     QList<Bookmark> m_bookmarks;
-    QList<Note> m_notes;
+    QList<NoteStamp> m_notes;
 };
