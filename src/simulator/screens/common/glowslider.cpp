@@ -4,6 +4,7 @@
 
 #include "kit/gradients.h"
 
+#include <QCursor>
 #include <QFocusEvent>
 #include <QHoverEvent>
 #include <QKeyEvent>
