@@ -1,5 +1,7 @@
 // The main() of tests that need Qt Core and no screen.
 
+#include "support/ownhome.h"
+
 #include <QCoreApplication>
 
 #include <gtest/gtest.h>
@@ -7,6 +9,7 @@
 int main(int argc, char **argv)
 {
     ::testing::InitGoogleTest(&argc, argv);
+    const OwnHome home;
     const QCoreApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -1,5 +1,7 @@
 // The main() of tests that need Qt Gui or Qt Quick.
 
+#include "support/ownhome.h"
+
 #include <QGuiApplication>
 
 #include <gtest/gtest.h>
@@ -24,6 +26,7 @@ int main(int argc, char **argv)
     qputenv("QT_FONT_DPI", "72");
 
     ::testing::InitGoogleTest(&argc, argv);
+    const OwnHome home;
     const QGuiApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }
