@@ -5,7 +5,7 @@
 // times the full size, 1440 × 948 window, offscreen, software scene graph.
 
 #include "support/busyclock.h"
-#include "support/fullcourse.h"
+#include "support/realwindow.h"
 
 #include "content/contentlibrary.h"
 #include "shell/appmodel.h"
@@ -15,7 +15,6 @@
 
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <algorithm>
@@ -140,14 +139,7 @@ BENCHMARK(BM_OvertakenByTheNext)->UseManualTime()->Unit(benchmark::kMillisecond)
 int main(int argc, char **argv)
 {
     benchmark::Initialize(&argc, argv);
-    // Nothing of the user's is read or written.
-    const QTemporaryDir home;
-    const FullCourse course(10);
-    qputenv("HV_CONTENT", course.path().toLocal8Bit());
-    for (const char *name : { "HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR" })
-        qputenv(name, home.path().toLocal8Bit());
-    if (!qEnvironmentVariableIsSet("DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const BenchHome home(10);
 
     HalvorinApp app(argc, argv);
     g_app = &app;

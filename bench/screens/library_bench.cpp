@@ -18,7 +18,6 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <QWheelEvent>
 
@@ -177,17 +176,10 @@ BENCHMARK(BM_OpenWorkflows)->UseManualTime()->Unit(benchmark::kMillisecond)->Ite
 int main(int argc, char **argv)
 {
     benchmark::Initialize(&argc, argv);
-    // Nothing of the user's is read or written.
-    const QTemporaryDir home;
-    const FullCourse course;
+    const BenchHome home;
     g_courses = home.path();
     for (const int entries : { 160, 5000 })
-        (void)makeCourse(course.path(), g_courses, entries);
-    qputenv("HV_CONTENT", course.path().toLocal8Bit());
-    for (const char *name : { "HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR" })
-        qputenv(name, home.path().toLocal8Bit());
-    if (!qEnvironmentVariableIsSet("DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        (void)makeCourse(home.coursePath(), g_courses, entries);
 
     HalvorinApp app(argc, argv);
     g_app = &app;

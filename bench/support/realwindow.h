@@ -9,12 +9,14 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-/// A home of its own with the full course, for as long as this exists: nothing of the user's is
+/// A home of its own with a full course, for as long as this exists: nothing of the user's is
 /// read or written. To be made before the program; without a display that is offscreen.
 class BenchHome
 {
 public:
-    BenchHome()
+    /// With the content of that many courses.
+    explicit BenchHome(int courses = 1)
+        : m_course(courses)
     {
         qputenv("HV_CONTENT", m_course.path().toLocal8Bit());
         for (const char *name : { "HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR" })
@@ -22,6 +24,9 @@ public:
         if (!qEnvironmentVariableIsSet("DISPLAY"))
             qputenv("QT_QPA_PLATFORM", "offscreen");
     }
+
+    [[nodiscard]] QString path() const { return m_home.path(); }
+    [[nodiscard]] QString coursePath() const { return m_course.path(); }
 
 private:
     const QTemporaryDir m_home;
