@@ -16,12 +16,6 @@ Item {
     /*! What assistive technology calls the text as a whole. */
     property string title: ""
 
-    QtObject {
-        id: metrics
-        readonly property real platePadding: 10
-        readonly property real barWidth: 3
-    }
-
     implicitHeight: words.length === 0 ? 0 : words.implicitHeight
 
     RichTextFlow {
@@ -38,21 +32,23 @@ Item {
     Repeater {
         model: flow.plates
         delegate: ContinuousRectangle {
-            id: plate
             required property rect modelData
             y: modelData.y
             width: root.width
             height: modelData.height
             radius: 10
             fillFrom: root.c.callout
-
-            Rectangle {
-                x: metrics.platePadding
-                y: metrics.platePadding
-                width: metrics.barWidth
-                height: plate.height - 2 * metrics.platePadding
-                color: root.c.warn
-            }
+        }
+    }
+    Repeater {
+        model: flow.bars
+        delegate: Rectangle {
+            required property rect modelData
+            x: modelData.x
+            y: modelData.y
+            width: modelData.width
+            height: modelData.height
+            color: root.c.warn
         }
     }
     Repeater {

@@ -43,6 +43,9 @@ TestCase {
     function plates(item) {
         return Find.all(item, child => child.fillFrom !== undefined && child.radius === 10);
     }
+    function bars(item) {
+        return Find.all(item, child => child.width === 3 && child.color !== undefined);
+    }
     function dots(item) {
         return Find.all(item, child => child.width === 5 && child.height === 5 && child.radius === 2.5);
     }
@@ -107,16 +110,16 @@ TestCase {
     function test_puts_a_bar_on_each_plate() {
         const item = show("> careful\n> and again");
         compare(plates(item).length, 2);
-        for (const plate of plates(item)) {
+        compare(bars(item).length, 2);
+        plates(item).forEach((plate, i) => {
             compare(plate.radius, 10);
             compare(plate.width, 400);
-            const bar = plate.children[0];
+            const bar = bars(item)[i];
             compare(bar.x, 10);
-            compare(bar.y, 10);
-            compare(bar.width, 3);
+            compare(bar.y, plate.y + 10);
             compare(bar.height, plate.height - 20);
             compare(String(bar.color), String(Qt.rgba(1, 0.78, 0.35, 1)));
-        }
+        });
     }
 
     function test_holds_all_of_its_plates() {

@@ -244,6 +244,7 @@ void RichTextFlow::place()
 
     QVariantList dots;
     QVariantList plates;
+    QVariantList bars;
     QVariantList blocks;
     const QTextDocument *document = m_document->textDocument();
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
@@ -266,6 +267,7 @@ void RichTextFlow::place()
         case Form::Callout:
             plates.append(
                 QRectF(0, top - kPlatePadding, document->textWidth(), height + 2 * kPlatePadding));
+            bars.append(QRectF(kPlatePadding, top, kBar, height));
             break;
         case Form::Heading:
         case Form::Paragraph:
@@ -280,6 +282,7 @@ void RichTextFlow::place()
     if (m_dots != dots || m_plates != plates) {
         m_dots = dots;
         m_plates = plates;
+        m_bars = bars;
         Q_EMIT ornamentsChanged();
     }
     if (m_blocks != blocks) {

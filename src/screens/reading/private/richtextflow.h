@@ -29,7 +29,7 @@ public:
 
 /// Lays course mark-up out in the document of a TextEdit, as plain characters with formats, so
 /// that the whole text is one selection. Reports where the ornaments stand that a document can't
-/// draw: the dots of bullets and the plates of callouts.
+/// draw: the dots of bullets, the plates of callouts and the bars on those.
 ///
 /// A figure such as "f/2.8" stays on one line. What holds it together is a character without width
 /// that is in the document and nowhere else: what is copied are the words of the text, as plain
@@ -42,9 +42,11 @@ class RichTextFlow : public QObject
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
     Q_PROPERTY(QColor glow READ glow WRITE setGlow NOTIFY glowChanged)
     Q_PROPERTY(qreal size READ size WRITE setSize NOTIFY sizeChanged)
-    /// Rectangles of the bullets' dots and of the callouts' plates, in the TextEdit's coordinates.
+    /// Rectangles of the bullets' dots, of the callouts' plates and of the bar on each plate, in
+    /// the TextEdit's coordinates.
     Q_PROPERTY(QVariantList dots READ dots NOTIFY ornamentsChanged)
     Q_PROPERTY(QVariantList plates READ plates NOTIFY ornamentsChanged)
+    Q_PROPERTY(QVariantList bars READ bars NOTIFY ornamentsChanged)
     /// A ReadableBlock for each block.
     Q_PROPERTY(QVariantList blocks READ blocks NOTIFY blocksChanged)
 public:
@@ -62,6 +64,7 @@ public:
 
     [[nodiscard]] QVariantList dots() const { return m_dots; }
     [[nodiscard]] QVariantList plates() const { return m_plates; }
+    [[nodiscard]] QVariantList bars() const { return m_bars; }
     [[nodiscard]] QVariantList blocks() const { return m_blocks; }
 
 Q_SIGNALS:
@@ -83,6 +86,7 @@ private:
     qreal m_size = 14;
     QVariantList m_dots;
     QVariantList m_plates;
+    QVariantList m_bars;
     QVariantList m_blocks;
     bool m_filling = false;
 };

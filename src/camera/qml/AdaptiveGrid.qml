@@ -11,7 +11,21 @@ Grid {
     required property real minimumColumnWidth
     property alias model: cells.model
     property alias delegate: cells.delegate
-    readonly property real columnWidth: (root.width - (root.columns - 1) * root.spacing) / root.columns
+    /*! Whether columns are whole points wide, for their edges to be drawn alike, instead of filling
+        the width to its last fraction. */
+    property bool wholePoints: false
+    readonly property real columnWidth: {
+        const width = (root.width - (root.columns - 1) * root.spacing) / root.columns;
+        return root.wholePoints ? Math.floor(width) : width;
+    }
+    /*! What the widest cell would like to have; 0 without cells. */
+    readonly property real widestCell: {
+        let widest = 0;
+        for (let i = 0; i < cells.count; ++i)
+            widest = Math.max(widest, cells.itemAt(i)?.implicitWidth ?? 0);
+        return widest;
+    }
+    readonly property alias count: cells.count
 
     function rowHeight(index: int): real {
         const first = index - index % root.columns;

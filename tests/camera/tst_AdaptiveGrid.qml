@@ -1,6 +1,6 @@
 import QtQuick
 import QtTest
-import Halvorin.Screens
+import Halvorin.Camera
 import Halvorin.Testing
 
 TestCase {
