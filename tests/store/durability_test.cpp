@@ -4,13 +4,11 @@
 #include "store/rehearsal.h"
 #include "store/storetesting.h"
 #include "store/userstore.h"
+#include "store/watcheddisk.h"
 
 #include <gtest/gtest.h>
 
-#include <sqlite3.h>
-
 #include <chrono>
-#include <map>
 #include <random>
 #include <thread>
 
@@ -73,58 +71,6 @@ private:
     std::mt19937 m_generator{ 20261024 };
 };
 
-// SQLite's own way to the disk, counting how often it makes sure that a file has arrived there.
-class SyncCounter
-{
-public:
-    SyncCounter()
-        : m_vfs(*s_real)
-    {
-        m_vfs.zName = "counting";
-        m_vfs.xOpen = open;
-        sqlite3_vfs_register(&m_vfs, true);
-        s_count = 0;
-    }
-    ~SyncCounter()
-    {
-        sqlite3_vfs_unregister(&m_vfs);
-        sqlite3_vfs_register(s_real, true);
-    }
-    Q_DISABLE_COPY_MOVE(SyncCounter)
-
-    [[nodiscard]] int count() const { return s_count; }
-
-private:
-    using Methods = sqlite3_io_methods;
-
-    static int open(
-        sqlite3_vfs *vfs, const char *name, sqlite3_file *file, int flags, int *outFlags)
-    {
-        const int code = s_real->xOpen(vfs, name, file, flags, outFlags);
-        if (file->pMethods) {
-            // One copy for each kind of file; a map keeps the addresses of what it holds.
-            Methods &methods = s_methods.try_emplace(file->pMethods, *file->pMethods).first->second;
-            methods.xSync = sync;
-            s_realSync = file->pMethods->xSync;
-            file->pMethods = &methods;
-        }
-        return code;
-    }
-
-    static int sync(sqlite3_file *file, int flags)
-    {
-        ++s_count;
-        return s_realSync(file, flags);
-    }
-
-    static inline sqlite3_vfs *const s_real = sqlite3_vfs_find(nullptr);
-    static inline std::map<const Methods *, Methods> s_methods;
-    static inline decltype(Methods::xSync) s_realSync = nullptr; // the same for every kind of file
-    static inline int s_count = 0;
-
-    sqlite3_vfs m_vfs;
-};
-
 // Has two processes open a new file at the same moment, and returns what they say about it.
 QStringList openedAtOnce(const QString &command, const QString &path)
 {
@@ -142,13 +88,17 @@ QStringList openedAtOnce(const QString &command, const QString &path)
 TEST(Durability, EveryWriteIsOnTheDiskWhenItReturns)
 {
     const Folder folder;
-    const SyncCounter syncs;
+    int syncs = 0;
+    const WatchedDisk disk([&syncs](const DiskOperation &operation) {
+        syncs += operation.kind == DiskOperation::Sync ? 1 : 0;
+        return SQLITE_OK;
+    });
     UserStore store(folder.url(u"Progress.sqlite"_s));
 
-    int before = syncs.count();
+    int before = syncs;
     const auto expectSync = [&] {
-        EXPECT_GT(syncs.count(), before);
-        before = syncs.count();
+        EXPECT_GT(syncs, before);
+        before = syncs;
     };
     store.setComplete(u"m01.1"_s, true);
     expectSync();
