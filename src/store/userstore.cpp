@@ -56,8 +56,9 @@ void createForOwnerOnly(const QString &path)
 SQLiteDB opened(const QString &path)
 {
     SQLiteDB db(path);
-    // A note that the program calls saved outlives a power cut.
-    db.exec(u"PRAGMA synchronous = FULL"_s);
+    // A note that the program calls saved outlives a power cut. More than "full": the journal in
+    // which a new file is made must not be back afterwards, to undo it and all that came later.
+    db.exec(u"PRAGMA synchronous = EXTRA"_s);
     db.exec(kSchema);
     return db;
 }

@@ -32,7 +32,8 @@ struct WatchedDisk::File {
 
     int ask(DiskOperation::Kind kind, qint64 offset = 0, const QByteArray &bytes = {}) const
     {
-        return disk->m_watcher({ kind, QString::fromUtf8(name), offset, bytes });
+        return disk->m_watcher(
+            { .kind = kind, .path = QString::fromUtf8(name), .offset = offset, .bytes = bytes });
     }
 
     template <auto Method, typename... Arguments>
@@ -109,7 +110,9 @@ int WatchedDisk::open(
 int WatchedDisk::remove(sqlite3_vfs *vfs, const char *name, int syncFolder)
 {
     auto *disk = static_cast<WatchedDisk *>(vfs->pAppData);
-    const int code = disk->m_watcher({ DiskOperation::Delete, QString::fromUtf8(name), 0, {} });
+    const int code = disk->m_watcher({ .kind = DiskOperation::Delete,
+        .path = QString::fromUtf8(name),
+        .syncsFolder = syncFolder != 0 });
     return code == SQLITE_OK ? disk->m_real->xDelete(disk->m_real, name, syncFolder) : code;
 }
 

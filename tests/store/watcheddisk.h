@@ -13,9 +13,10 @@ struct DiskOperation {
     enum Kind { Open, Delete, Write, Truncate, Sync, Lock };
 
     Kind kind;
-    QString path;      ///< Empty for a temporary file, which has no name.
-    qint64 offset = 0; ///< Where bytes are written, or the size to cut to.
-    QByteArray bytes;  ///< That are written.
+    QString path;             ///< Empty for a temporary file, which has no name.
+    qint64 offset = 0;        ///< Where bytes are written, or the size to cut to.
+    QByteArray bytes = {};    ///< That are written.
+    bool syncsFolder = false; ///< Whether a file is to stay deleted whatever happens next.
 };
 
 /// The code with which a disk that has trouble answers.
