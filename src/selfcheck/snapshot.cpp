@@ -125,6 +125,14 @@ private:
     std::array<std::unique_ptr<SceneCamera>, 3> m_cameras;
 };
 
+// Screens have no transparent places, and leaving them out saves a quarter of the work. So much
+// compression makes files that are hardly larger than with the most, in a fraction of the time.
+bool save(const QImage &image, const QString &path)
+{
+    constexpr int kQuality = 60;
+    return image.convertToFormat(QImage::Format_RGB32).save(path, "PNG", kQuality);
+}
+
 /// Writes pictures in threads of their own, since encoding one takes as long as drawing the next,
 /// and tells what has become of them in the order in which they came.
 class Album
@@ -138,7 +146,7 @@ public:
     {
         const QString path = m_folder.filePath(name + ".png"_L1);
         m_pages.push_back({ name, image.size(), std::async(std::launch::async, [image, path] {
-                               return !image.isNull() && image.save(path, "PNG");
+                               return !image.isNull() && save(image, path);
                            }) });
         while (!m_pages.empty()
             && m_pages.front().written.wait_for(std::chrono::seconds(0))
