@@ -2,6 +2,7 @@
 
 #include "content/contentkind.h"
 #include "content/contentlibrary.h"
+#include "kit/netstatus.h"
 #include "kit/opener.h"
 #include "kit/preferences.h"
 #include "kit/snapshotmode.h"
@@ -103,6 +104,7 @@ public:
         model.setQuizModuleID({});
         if (!shot.themeID.isEmpty())
             CRVNThemes::setCurrentID(shot.themeID);
+        NetStatus::setOverride(shot.online);
         if (shot.arrange)
             shot.arrange(model);
         return scene(shot.subject).take(shot.size);

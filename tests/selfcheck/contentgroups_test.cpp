@@ -2,6 +2,8 @@
 // mistake that is planted in it shows in the checks that are about it, and in no others.
 
 #include "content/contentlibrary.h"
+#include "kit/netstatus.h"
+#include "kit/opener.h"
 #include "recording.h"
 #include "selfcheck/selftest/groups.h"
 #include "selfcheckworld.h"
@@ -144,13 +146,6 @@ class VideoGroup : public testing::TestWithParam<Planted>
 std::string nameOf(const testing::TestParamInfo<Planted> &info)
 {
     return info.param.name;
-}
-
-void runVideoGroup(HVTestRun &run)
-{
-    QList<QUrl> opened;
-    HVSelfTest::videoTests(
-        run, [&] { return opened; }, [&] { opened.clear(); });
 }
 
 } // namespace
@@ -336,7 +331,7 @@ TEST(SearchGroupState, LeavesTheEncyclopediaSearchedForTripods)
 
 TEST_P(VideoGroup, TellsThePlantedMistake)
 {
-    expectFailures(failures(GetParam().change, runVideoGroup), GetParam().told);
+    expectFailures(failures(GetParam().change, runVideoTests), GetParam().told);
 }
 
 INSTANTIATE_TEST_SUITE_P(Checks, VideoGroup,
@@ -352,5 +347,31 @@ INSTANTIATE_TEST_SUITE_P(Checks, VideoGroup,
             both(replacing(kVideos, "\tm12\t", "\tm01\t"),
                 both(replacing(kVideos, "\tm11\t", "\tm01\t"),
                     replacing(kVideos, "\tm10\t", "\tm01\t"))),
-            { u"videos cover 9 modules"_s } }),
+            { u"videos cover 9 modules"_s } },
+        Planted{ "NoVideos", without(kVideos),
+            { u"videos cover 0 modules"_s,
+                u"the player uses the official YouTube embed page with an https referrer"_s,
+                u"offline: nothing opens and the \"needs internet\" message shows"_s,
+                u"online: Open in YouTube opens the watch page"_s } }),
     nameOf);
+
+TEST(VideoGroupBrowser, MustBeLeftAloneOfflineAndBeGivenOneAddressOnline)
+{
+    const QString offline = u"offline: nothing opens and the \"needs internet\" message shows"_s;
+    const QString online = u"online: Open in YouTube opens the watch page"_s;
+    const auto failuresWith = [](const QList<QUrl> &opened) {
+        const auto group = [&](HVTestRun &run) {
+            // An action of this test's, since the real one would open the browser.
+            Opener::setAction([](const QUrl &) {});
+            HVSelfTest::videoTests(
+                run, [&] { return opened; }, [] {});
+            Opener::setAction({});
+            NetStatus::setOverride(std::nullopt);
+        };
+        return failures([](Files &) {}, group);
+    };
+    const QUrl page(u"https://www.youtube.com/watch?v=Oh4m8Ees-3Q"_s);
+    EXPECT_EQ(failuresWith({}), QStringList(online));
+    EXPECT_EQ(failuresWith({ page }), QStringList(offline));
+    EXPECT_EQ(failuresWith({ page, page }), (QStringList{ offline, online }));
+}

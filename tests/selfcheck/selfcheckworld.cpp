@@ -1,6 +1,9 @@
 #include "selfcheckworld.h"
 
+#include "kit/netstatus.h"
+#include "kit/opener.h"
 #include "kit/preferences.h"
+#include "selfcheck/selftest/groups.h"
 #include "shell/setup.h"
 #include "store/storetesting.h"
 
@@ -12,6 +15,16 @@ void prepareSelfTestGroups()
 {
     Preferences::shared().keepInMemory();
     HVSetup::configure();
+}
+
+void runVideoTests(HVTestRun &run)
+{
+    QList<QUrl> opened;
+    Opener::setAction([&](const QUrl &address) { opened.append(address); });
+    HVSelfTest::videoTests(
+        run, [&] { return opened; }, [&] { opened.clear(); });
+    Opener::setAction({});
+    NetStatus::setOverride(std::nullopt);
 }
 
 const TestCourse::Files &installedCourseFiles()

@@ -97,8 +97,8 @@ int run()
         run, [&opened] { return opened.list(); }, [&opened] { opened.clear(); });
 
     printLine({});
-        printLine(result(run));
-        return run.failed() == 0 ? 0 : 1;
+    printLine(result(run));
+    return run.failed() == 0 ? 0 : 1;
 }
 
 std::optional<int> handle(const QStringList &arguments)
