@@ -2,13 +2,19 @@
 
 #include "recording.h"
 #include "selfcheck/selftest/mutation.h"
+#include "selfcheck/standardoutput.h"
+#include "store/storetesting.h"
 #include "support/qtprinters.h"
 
+#include <QFile>
 #include <QLocale>
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <limits>
+
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -80,6 +86,27 @@ TEST(TestRun, WritesNumbersAlikeUnderEveryLocale)
     QLocale::setDefault(QLocale(QLocale::German));
     EXPECT_EQ(nearLine(1234.5, 1234.5, 0.05), u"PASS  label: 1234.5000 ≈ 1234.5000 (±0.05)"_s);
     QLocale::setDefault(before);
+}
+
+TEST(StandardOutput, HasEachLineInUtf8AsSoonAsItIsTold)
+{
+    // given: a file in the place of standard output, which the C library would fill by blocks
+    const StoreTesting::Folder folder;
+    QFile file(folder.path(u"output"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    std::fflush(stdout);
+    const int before = ::dup(STDOUT_FILENO);
+    ::dup2(file.handle(), STDOUT_FILENO);
+    // when
+    printLine(u"f/2 → ünï"_s);
+    const QByteArray one = StoreTesting::fileBytes(file.fileName());
+    printLine({});
+    const QByteArray both = StoreTesting::fileBytes(file.fileName());
+    ::dup2(before, STDOUT_FILENO);
+    ::close(before);
+    // then
+    EXPECT_EQ(QString::fromUtf8(one), u"f/2 → ünï\n"_s);
+    EXPECT_EQ(QString::fromUtf8(both), u"f/2 → ünï\n\n"_s);
 }
 
 TEST(Mutation, TakesNamesFromBetweenCommas)

@@ -56,11 +56,11 @@ private:
 
 QString banner(const QString &mutation)
 {
-    const QString start
+    QString line
         = u"CRVN Halvorin self-test — "_s + QDateTime::currentDateTimeUtc().toString(Qt::ISODate);
-    if (mutation.isEmpty())
-        return start;
-    return start + u" — MUTATION \"" + mutation + "\": failures are EXPECTED"_L1;
+    if (!mutation.isEmpty())
+        line += u" — MUTATION \"" + mutation + "\": failures are EXPECTED"_L1;
+    return line;
 }
 
 QString result(const HVTestRun &run)
