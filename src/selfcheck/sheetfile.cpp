@@ -1,6 +1,7 @@
 #include "selfcheck/sheetfile.h"
 
 #include "selfcheck/offscreen.h"
+#include "selfcheck/standardoutput.h"
 #include "shell/setup.h"
 
 #include <QTextStream>
@@ -26,7 +27,7 @@ std::optional<int> handleSheet(
         QTextStream(stderr) << "could not write "_L1 << path << Qt::endl;
         return 1;
     }
-    QTextStream(stdout) << "wrote "_L1 << path << ' ' << sheet.width() << 'x' << sheet.height()
-                        << Qt::endl;
+    printLine("wrote "_L1 + path + u' ' + QString::number(sheet.width()) + u'x'
+        + QString::number(sheet.height()));
     return 0;
 }

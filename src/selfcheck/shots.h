@@ -19,7 +19,7 @@ struct Shot {
     QSize size = Geometry::usualWindow.toSize(); ///< Pixels.
     QString themeID;                             ///< Empty keeps the theme of the shot before.
     std::function<void(AppModel &)> arrange;     ///< Puts the model in the state of the picture.
-    bool online = true;
+    bool online = true;                          ///< Whatever the machine is.
     Subject subject = Subject::Camera;
 };
 

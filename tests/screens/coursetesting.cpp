@@ -92,6 +92,14 @@ Three legs.
 constexpr auto kVideos = "id\ttitle\tchannel\tmodule\ttopic\tseconds\tpublished\tchecked\n"
                          "abcdefghijk\tPinhole\tThe Bench\tlight\tlight\t60\t2020\t2026-10-24\n";
 
+constexpr auto kFilms
+    = "id\ttitle\tchannel\tmodule\ttopic\tseconds\tpublished\tchecked\n"
+      "shutters_01\tShutters\tThe Bench\ttime\ttime\t725\t2020-01-02\t2026-10-24\n"
+      "abcdefghijk\tPinhole\tThe Bench\tlight\tlight\t60\t2021-03-04\t2026-10-24\n"
+      "nobodysfilm\tNobody's film\tStray\tgone\tstray\t61\t2022-05-06\t2026-10-24\n"
+      "nopinhole_2\tPinhole for two\tBright & "
+      "<b>Room</b>\tlight\tlight\t3665\t2023-07-08\t2026-10-24\n";
+
 constexpr auto kBareCourse = R"(=== MODULE alone
 title: The only one
 level: Professional
@@ -230,6 +238,8 @@ TestCourse::Files filesOf(CourseTesting::Course course)
     case CourseTesting::Course::Library:
         return { { u"gear.txt"_s, oddGear() }, { u"timeline.txt"_s, kTimeline },
             { u"software.txt"_s, kSoftware }, { u"workflows.txt"_s, kWorkflow } };
+    case CourseTesting::Course::Films:
+        return { { u"course.txt"_s, kCourse }, { u"videos.tsv"_s, kFilms } };
     case CourseTesting::Course::Bare:
         return { { u"course.txt"_s, kBareCourse } };
     case CourseTesting::Course::Empty:

@@ -27,8 +27,11 @@ namespace CourseTesting {
 ///   software  darkroom, lightbox (Raw editor), archive (Catalog; no address)
 ///   workflow  load, develop
 ///
+/// Films has the modules and lessons of Small, and videos in this order:
+///   shutters_01 (time), abcdefghijk (light), nobodysfilm (no module), nopinhole_2 (light)
+///
 /// Bare has one module without lessons, Empty has no file at all.
-enum class Course { Small, Library, Bare, Empty };
+enum class Course { Small, Library, Films, Bare, Empty };
 
 /// While it lives, the shared course and the shared progress file are its own, and AppModel is as
 /// at launch. Preferences live in memory and hold neither theme nor zoom. Afterwards no progress

@@ -36,6 +36,8 @@ Course courseNamed(const QString &name)
         return Course::Small;
     if (name == "library"_L1)
         return Course::Library;
+    if (name == "films"_L1)
+        return Course::Films;
     if (name == "bare"_L1)
         return Course::Bare;
     if (name == "empty"_L1)

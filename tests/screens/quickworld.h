@@ -21,8 +21,8 @@ public:
     static void registerType();
     static void end();
 
-    /// Begins with the course "small", "library", "bare" or "empty" and a fresh progress file, or
-    /// without one. No screen may exist while this is called.
+    /// Begins with the course "small", "library", "films", "bare" or "empty" and a fresh progress
+    /// file, or without one. No screen may exist while this is called.
     Q_INVOKABLE void begin(const QString &course = QStringLiteral("small"), bool withStore = true);
 
     Q_INVOKABLE void finish(const QStringList &lessons);

@@ -49,8 +49,9 @@ TEST_F(Launch, HelpNamesEveryOptionAndVariable)
     Program program(home, { u"--help"_s });
     EXPECT_EQ(program.status(), 0);
     const QString help = program.output();
-    for (const QString &word : { u"--help"_s, u"--version"_s, u"--hv-snapshot FOLDER"_s,
-             u"--diagram-sheet FILE"_s, u"HV_CONTENT"_s, u"HV_DB_PATH"_s })
+    for (const QString &word :
+        { u"--help"_s, u"--version"_s, u"--selftest"_s, u"--hv-snapshot FOLDER"_s,
+            u"--diagram-sheet FILE"_s, u"HV_CONTENT"_s, u"HV_DB_PATH"_s })
         EXPECT_TRUE(help.contains(word)) << qPrintable(word);
     EXPECT_TRUE(help.endsWith(u'\n'));
     EXPECT_EQ(program.complaints(), u""_s);

@@ -1,5 +1,7 @@
 #include "screens/videos/hvvideo.h"
 
+#include "shell/info.h"
+
 #include <QUrlQuery>
 
 using namespace Qt::StringLiterals;
@@ -54,6 +56,18 @@ QUrl embedURL(const Video &video)
 {
     return QUrl(
         u"https://" + embedHost + u"/embed/" + video.id + u"?rel=0&modestbranding=1&playsinline=1");
+}
+
+QUrl makerSite()
+{
+    QUrl site = HVInfo::website();
+    site.setPath(u"/"_s);
+    return site;
+}
+
+EmbedRequest embedRequest(const Video &video)
+{
+    return { .url = embedURL(video), .headers = { { "Referer", makerSite().toEncoded() } } };
 }
 
 bool isWellFormed(const Video &video)

@@ -2,7 +2,7 @@ import QtQuick
 import Halvorin.Camera
 import Halvorin.Diagrams
 
-/*! A gear drawing on the display's black. */
+/*! A gear drawing with all of its callouts on the display's black. */
 Rectangle {
     id: root
 
@@ -13,6 +13,7 @@ Rectangle {
     GearDiagramView {
         anchors.fill: parent
         anchors.margins: 20
+        layout: DiagramCanvas.Whole
         kind: "tripod"
         glow: root.c.glow
     }

@@ -5,6 +5,8 @@
 #include "kit/motion.h"
 #include "kit/qml/kitwindows.h"
 #include "selfcheck/diagramsheet.h"
+#include "selfcheck/selftest/childmodes.h"
+#include "selfcheck/selftest/selftest.h"
 #include "selfcheck/snapshot.h"
 #include "selfcheck/themesheet.h"
 #include "shell/appmodel.h"
@@ -35,6 +37,7 @@ constexpr auto kHelp = R"(Usage: halvorin [option]
 Opens the camera. Options:
   --help                 show this text
   --version              show the version
+  --selftest             check the program and its course, say what was found and end
   --hv-snapshot FOLDER   render every screen to a PNG file in FOLDER and end
 
 For developers:
@@ -54,7 +57,11 @@ void print(const QString &text)
 // Decided from the text of the arguments, before any object of Qt's exists.
 std::optional<int> statusOfModes(const QStringList &arguments)
 {
+    if (const std::optional<int> status = HVSelfTest::handleChild(arguments))
+        return status;
     if (const std::optional<int> status = HVSnapshot::handle(arguments))
+        return status;
+    if (const std::optional<int> status = HVSelfTest::handle(arguments))
         return status;
     if (const std::optional<int> status = HVDiagramSheet::handle(arguments))
         return status;

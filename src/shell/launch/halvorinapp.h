@@ -15,8 +15,9 @@ class KitWindows;
 class SingleInstance;
 
 /// The application. Its construction decides, from the arguments alone and in a fixed order, what
-/// this process is for: a mode that serves no user (pictures), an answer on standard output
-/// ("--help", "--version"), or the camera. Arguments that nobody knows are passed over.
+/// this process is for: a mode that serves no user (the self-test and its children, pictures), an
+/// answer on standard output ("--help", "--version"), or the camera. Arguments that nobody knows
+/// are passed over.
 ///
 /// The camera belongs to one process at a time. A second launch brings the first one's window to
 /// the front and ends, silently and with status 0, before it has touched the user's file.

@@ -39,6 +39,31 @@ TEST(VideoLinks, LeadToTheFilmsPageAndPlayer)
         "?rel=0&modestbranding=1&playsinline=1");
 }
 
+TEST(VideoLinks, ThePlayerIsAskedForOnBehalfOfTheMakersSite)
+{
+    const HVVideo::EmbedRequest request = HVVideo::embedRequest(soundVideo());
+    EXPECT_EQ(request.url, HVVideo::embedURL(soundVideo()));
+    ASSERT_EQ(request.headers.size(), 1);
+    EXPECT_EQ(request.headers.first().first, "Referer");
+    EXPECT_EQ(request.headers.first().second, HVVideo::makerSite().toEncoded());
+    EXPECT_TRUE(request.headers.first().second.startsWith("https://"));
+    EXPECT_TRUE(request.headers.first().second.endsWith('/'));
+    EXPECT_EQ(request.timeout, std::chrono::seconds(60));
+}
+
+TEST(VideoLinks, TheProbeReadsTheBoxThatCanBeSeen)
+{
+    EXPECT_EQ(HVVideo::errorProbeJS,
+        u"(function(){var e=document.querySelector('.ytp-error');"
+        "return e&&e.offsetParent!==null?e.innerText:'';})()");
+}
+
+TEST(VideoLinks, TheIdsPatternIsTheServices)
+{
+    EXPECT_EQ(HVVideo::idPattern().pattern(), u"^[A-Za-z0-9_-]{11}$");
+    EXPECT_TRUE(HVVideo::idPattern().isValid());
+}
+
 TEST(VideoRules, AcceptARecordThatHasEverything)
 {
     EXPECT_TRUE(HVVideo::isWellFormed(soundVideo()));
