@@ -67,6 +67,23 @@ struct Binder {
     }
 };
 
+// Far more than a note may take, and little enough to read.
+constexpr int kLongestValue = 64 * 1024 * 1024; // bytes
+
+// A file that anybody may have made gets to run nothing of its own: no trigger, no view, no
+// function in its schema that reaches beyond it. Its internal tables can't be written to, it can't
+// bring in other files, and damage is looked for as pages are read.
+void distrust(sqlite3 *handle)
+{
+    for (const int trusted : { SQLITE_DBCONFIG_TRUSTED_SCHEMA, SQLITE_DBCONFIG_ENABLE_TRIGGER,
+             SQLITE_DBCONFIG_ENABLE_VIEW })
+        sqlite3_db_config(handle, trusted, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_limit(handle, SQLITE_LIMIT_ATTACHED, 0);
+    sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, kLongestValue);
+    sqlite3_exec(handle, "PRAGMA cell_size_check = ON", nullptr, nullptr, nullptr);
+}
+
 QString decodedText(QByteArrayView bytes)
 {
     // QString::fromUtf8() swallows a byte order mark at the front, which a user may have pasted. A
@@ -207,6 +224,7 @@ SQLiteDB::SQLiteDB(const QString &path, Access access)
         throw m_handle ? error() : HVError(HVError::Kind::Database, u"could not open"_s, code);
 
     sqlite3_busy_timeout(handle, int(busyTimeout.count()));
+    distrust(handle);
     if (access == Access::ReadWrite)
         exec(u"PRAGMA foreign_keys = ON"_s);
 }

@@ -4,6 +4,9 @@
 // binds, steps and finalizes anew, at the rate of a person clicking. Every failure is an HVError of
 // kind Database that carries SQLite's own message and its primary result code.
 //
+// The file is not trusted: its triggers don't fire, its views can't be read, its schema calls no
+// function that reaches beyond it, and a value of more than 64 MB is an error.
+//
 // A connection has no lock of its own and is used from one thread at a time. Another process may
 // hold the file: a call then waits up to busyTimeout before it fails.
 #pragma once

@@ -5,6 +5,7 @@
 #include "kit/zoom.h"
 #include "shell/appmodel.h"
 #include "store/userstore.h"
+#include "store/watcheddisk.h"
 #include "support/testcourse.h"
 
 #include <QUrl>
@@ -278,6 +279,17 @@ void resetModel()
     model.setSavePanel({});
 }
 
+bool g_diskIsFull = false;
+
+// For good: the index of a course is a database too, and stays with the process.
+void watchDisk()
+{
+    static const WatchedDisk disk([](const DiskOperation &operation) {
+        return g_diskIsFull && operation.kind == DiskOperation::Write ? SQLITE_FULL : SQLITE_OK;
+    });
+    g_diskIsFull = false;
+}
+
 } // namespace
 
 namespace CourseTesting {
@@ -285,6 +297,7 @@ namespace CourseTesting {
 World::World(Course course, Store store)
 {
     resetPreferences();
+    watchDisk();
     TestCourse::share(m_folder.path(), filesOf(course));
     UserStore::setShared(store == Store::Fresh
             ? std::make_unique<UserStore>(QUrl::fromLocalFile(progressPath()))
@@ -303,15 +316,9 @@ QString World::progressPath() const
     return m_folder.filePath(u"Progress.sqlite"_s);
 }
 
-void World::refuseWrites(const QString &reason)
+void World::fillDisk()
 {
-    SQLiteDB file(progressPath());
-    for (const auto table : { "progress"_L1, "bookmarks"_L1, "notes"_L1, "quiz_results"_L1 }) {
-        for (const auto change : { "INSERT"_L1, "UPDATE"_L1, "DELETE"_L1 }) {
-            file.exec(u"CREATE TRIGGER refuse_%1_%2 BEFORE %2 ON %1 "
-                      "BEGIN SELECT RAISE(ABORT, '%3'); END"_s.arg(table, change, reason));
-        }
-    }
+    g_diskIsFull = true;
 }
 
 QStringList lessonIDs()

@@ -47,8 +47,8 @@ public:
     World(const World &) = delete;
     World &operator=(const World &) = delete;
 
-    /// From here on the progress file refuses every write with this reason. Reads go on.
-    void refuseWrites(const QString &reason);
+    /// From here on there is no room for another byte. Reads go on.
+    static void fillDisk();
 
     /// A path in the scratch folder.
     [[nodiscard]] QString path(const QString &name) const { return m_folder.filePath(name); }

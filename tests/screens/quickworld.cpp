@@ -102,9 +102,9 @@ bool QuickWorld::isBookmarked(const QString &type, const QString &id) const
     return UserStore::shared()->isBookmarked(type, id);
 }
 
-void QuickWorld::refuseWrites(const QString &reason)
+void QuickWorld::fillDisk()
 {
-    s_world->refuseWrites(reason);
+    World::fillDisk();
 }
 
 QString QuickWorld::moduleID() const

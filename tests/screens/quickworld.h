@@ -29,7 +29,7 @@ public:
     Q_INVOKABLE void finishAll();
     Q_INVOKABLE [[nodiscard]] QStringList finishedLessons() const;
     Q_INVOKABLE [[nodiscard]] bool isBookmarked(const QString &type, const QString &id) const;
-    Q_INVOKABLE void refuseWrites(const QString &reason);
+    Q_INVOKABLE void fillDisk();
 
     /// What is chosen in AppModel; "none" if nothing is.
     Q_INVOKABLE [[nodiscard]] QString moduleID() const;

@@ -466,6 +466,44 @@ TEST(SQLiteDB, EnforcesForeignKeys)
     EXPECT_EQ(SQLiteDB(u":memory:"_s).scalarInt(u"PRAGMA foreign_keys"_s), 1);
 }
 
+TEST(SQLiteDB, RunsNothingThatTheFileBringsAlong)
+{
+    SQLiteDB db(u":memory:"_s);
+    db.exec(u"CREATE TABLE t (a); CREATE TABLE victim (b); INSERT INTO victim VALUES (1);"
+            "CREATE TRIGGER r AFTER INSERT ON t BEGIN DELETE FROM victim; END;"
+            "CREATE VIEW v AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
+            "SELECT i FROM n"_s);
+    db.run(u"INSERT INTO t VALUES (1)"_s);
+    EXPECT_EQ(db.scalarInt(u"SELECT COUNT(*) FROM victim"_s), 1);
+    EXPECT_TRUE(errorOf([&] { static_cast<void>(db.query(u"SELECT i FROM v"_s)); }));
+}
+
+TEST(SQLiteDB, BringsInNoOtherFile)
+{
+    const Folder folder;
+    SQLiteDB db(u":memory:"_s);
+    EXPECT_TRUE(
+        errorOf([&] { db.run(u"ATTACH ? AS other"_s, { folder.path(u"other.sqlite"_s) }); }));
+    EXPECT_TRUE(fingerprint(folder.path()).isEmpty());
+}
+
+TEST(SQLiteDB, LetsNobodyWriteToItsSchema)
+{
+    SQLiteDB db(u":memory:"_s);
+    db.exec(u"CREATE TABLE t (a); PRAGMA writable_schema = ON"_s);
+    EXPECT_TRUE(errorOf([&] { db.exec(u"UPDATE sqlite_schema SET sql = 'nonsense'"_s); }));
+}
+
+TEST(SQLiteDB, RefusesAValueThatIsTooLongToBeANote)
+{
+    SQLiteDB db(u":memory:"_s);
+    EXPECT_EQ(db.scalarInt(u"SELECT length(zeroblob(64 << 20))"_s), 64 << 20);
+    const auto error
+        = errorOf([&] { static_cast<void>(db.query(u"SELECT zeroblob((64 << 20) + 1)"_s)); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->sqliteCode(), SQLITE_TOOBIG);
+}
+
 TEST(SQLiteDB, ReadOnlyNeitherCreatesNorWrites)
 {
     const Folder folder;

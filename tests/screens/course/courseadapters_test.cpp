@@ -757,7 +757,7 @@ TEST_F(LessonReadingTest, GoesOnFromAFinishedLessonWithoutWriting)
 
 TEST_F(LessonReadingTest, GoesOnEvenIfTheMarkCanNotBeWritten)
 {
-    world.refuseWrites(u"the disk is full"_s);
+    world.fillDisk();
     model().openLesson(u"l2"_s);
     LessonReading lesson;
     lesson.setLessonID(u"l2"_s);
@@ -770,7 +770,7 @@ TEST_F(LessonReadingTest, GoesOnEvenIfTheMarkCanNotBeWritten)
 
 TEST_F(LessonReadingTest, TellsOfAMarkThatCanNotBeWritten)
 {
-    world.refuseWrites(u"the disk is full"_s);
+    world.fillDisk();
     LessonReading lesson;
     lesson.setLessonID(u"l1"_s);
     const Count marks(lesson, &LessonReading::marksChanged);

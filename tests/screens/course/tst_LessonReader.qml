@@ -93,7 +93,7 @@ TestCase {
 
     function test_tells_why_a_mark_could_not_be_written() {
         read("l1");
-        World.refuseWrites("the disk is full");
+        World.fillDisk();
         mouseClick(button("Mark as finished"));
         verify(AppModel.messageText.includes("the disk is full"));
         verify(button("Mark as finished"));
@@ -101,7 +101,7 @@ TestCase {
 
     function test_moves_on_even_if_the_mark_could_not_be_written() {
         read("l1");
-        World.refuseWrites("the disk is full");
+        World.fillDisk();
         mouseClick(button("Finish & next lesson"));
         verify(AppModel.messageText.includes("the disk is full"));
         compare(World.lessonID(), "l2");

@@ -130,7 +130,7 @@ TestCase {
     function test_tells_in_red_why_a_note_could_not_be_saved_and_keeps_it() {
         write();
         field().text = "Not to be lost";
-        World.refuseWrites("the disk is full");
+        World.fillDisk();
         save();
         const reason = Find.first(root(), item => Find.isText(item) && item.visible && item.text.includes("the disk is full"));
         verify(reason);

@@ -140,7 +140,7 @@ TestCase {
 
     function test_says_why_a_note_could_not_be_deleted() {
         World.addNote("lesson", "l1", "Stays");
-        World.refuseWrites("the disk is full");
+        World.fillDisk();
         open();
         mouseClick(button("Delete"));
         tryVerify(() => button("Delete Note"));

@@ -144,7 +144,7 @@ TestCase {
     function test_says_why_a_score_could_not_be_stored_and_keeps_the_picks() {
         take("light");
         answerAll("The hole", "On its head");
-        World.refuseWrites("the disk is full");
+        World.fillDisk();
         press("Check my answers");
         verify(AppModel.messageText.includes("the disk is full"));
         verify(button("Check my answers").enabled);
