@@ -2,6 +2,8 @@
 
 #include "content/contentkind.h"
 #include "content/contentlibrary.h"
+#include "kit/netstatus.h"
+#include "kit/opener.h"
 #include "kit/preferences.h"
 #include "kit/snapshotmode.h"
 #include "kit/themes.h"
@@ -104,6 +106,7 @@ public:
         model.setQuizModuleID({});
         if (!shot.themeID.isEmpty())
             CRVNThemes::setCurrentID(shot.themeID);
+        NetStatus::setOverride(shot.online);
         if (shot.arrange)
             shot.arrange(model);
         return scene(shot.subject).take(shot.size);
@@ -161,6 +164,7 @@ std::optional<int> HVSnapshot::handle(const QStringList &arguments)
     Preferences::shared().keepInMemory();
     SnapshotMode::enable();
     PreviewRenderer::setSynchronous(true);
+    Opener::setAction([](const QUrl &) {});
     HVSetup::configure();
 
     try {
