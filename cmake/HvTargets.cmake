@@ -1,4 +1,4 @@
-# The five kinds of target in this project. A folder's CMakeLists.txt calls these and nothing else.
+# The six kinds of target in this project. A folder's CMakeLists.txt calls these and nothing else.
 
 # hv_precompile(<target> <kind>)
 # Reads Qt's headers from what was parsed once for all targets of the kind: "plain" libraries,
@@ -57,6 +57,36 @@ function(hv_add_qml_module folder)
     target_link_libraries(${target}
         PUBLIC Qt6::Quick ${arg_PUBLIC} PRIVATE ${arg_PRIVATE} hv_warnings)
     hv_precompile(${target} quick)
+endfunction()
+
+# hv_add_qml_plugin(<folder> URI … CLASS … SOURCES … QML_FILES … PRIVATE …)
+# A QML module that the program isn't linked with but loads when it needs it, from the folder
+# HVInfo::pluginFolder(). CLASS is its QQmlEngineExtensionPlugin, among the sources.
+function(hv_add_qml_plugin folder)
+    cmake_parse_arguments(arg "" "URI;CLASS" "SOURCES;QML_FILES;PRIVATE" ${ARGN})
+    set(target hv_${folder}_plugin)
+    string(REPLACE "." "/" path "${arg_URI}")
+    qt_add_qml_module(${target} SHARED
+        PLUGIN_TARGET ${target}
+        CLASS_NAME ${arg_CLASS}
+        NO_GENERATE_PLUGIN_SOURCE
+        NO_PLUGIN_OPTIONAL
+        URI ${arg_URI}
+        VERSION 1.0
+        RESOURCE_PREFIX /qt/qml
+        OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/plugins/${path}"
+        SOURCES ${arg_SOURCES}
+        QML_FILES ${arg_QML_FILES}
+        DEPENDENCIES QtQuick)
+    target_include_directories(${target}
+        PRIVATE "${PROJECT_SOURCE_DIR}/src" "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_link_libraries(${target} PRIVATE Qt6::Quick ${arg_PRIVATE} hv_warnings)
+    set(place "lib/crvn-halvorin/${path}")
+    install(TARGETS ${target}
+        LIBRARY DESTINATION "${place}" COMPONENT ${folder}
+        RUNTIME DESTINATION "${place}" COMPONENT ${folder})
+    install(FILES "${PROJECT_BINARY_DIR}/plugins/${path}/qmldir"
+        DESTINATION "${place}" COMPONENT ${folder})
 endfunction()
 
 # hv_add_test(<folder> SOURCES … LINK … DEFINE …)

@@ -20,6 +20,16 @@ QString environmentPath(const char *name)
     return isWhole ? path : QDir::currentPath() + u'/' + path;
 }
 
+// A folder beside the executable, else the one under the prefix of its installation.
+QString besideOrInstalled(const QString &name, const QString &installed)
+{
+    const QDir executable(QCoreApplication::applicationDirPath());
+    const QString beside = executable.filePath(name);
+    if (QFileInfo(beside).isDir())
+        return beside;
+    return QDir::cleanPath(executable.filePath(QStringLiteral("../") + installed));
+}
+
 } // namespace
 
 namespace HVInfo {
@@ -77,11 +87,13 @@ QString contentFolder()
     if (!path.isEmpty())
         return path;
 
-    const QDir executable(QCoreApplication::applicationDirPath());
-    const QString beside = executable.filePath(QStringLiteral("content"));
-    if (QFileInfo(beside).isDir())
-        return beside;
-    return QDir::cleanPath(executable.filePath(QStringLiteral("../share/crvn-halvorin/content")));
+    return besideOrInstalled(
+        QStringLiteral("content"), QStringLiteral("share/crvn-halvorin/content"));
+}
+
+QString pluginFolder()
+{
+    return besideOrInstalled(QStringLiteral("plugins"), QStringLiteral("lib/crvn-halvorin"));
 }
 
 } // namespace HVInfo

@@ -44,4 +44,9 @@ inline const QString specsNote = QStringLiteral(
 /// executable is installed in. The last is returned unseen: reading it then reports what fails.
 [[nodiscard]] QString contentFolder();
 
+/// The folder with the parts of the program that are loaded only when they are needed, an absolute
+/// path: "plugins" beside the executable, else "lib/crvn-halvorin" under the prefix that the
+/// executable is installed in. The last is returned unseen: they may not be installed.
+[[nodiscard]] QString pluginFolder();
+
 } // namespace HVInfo

@@ -1,6 +1,7 @@
 #include "screens/quickworld.h"
 
 #include "content/contentlibrary.h"
+#include "kit/netstatus.h"
 #include "kit/opener.h"
 #include "kit/preferences.h"
 #include "kit/themes.h"
@@ -76,6 +77,7 @@ void QuickWorld::begin(const QString &course, bool withStore)
     s_world = std::make_unique<World>(
         courseNamed(course), withStore ? World::Store::Fresh : World::Store::None);
     s_visited.clear();
+    NetStatus::setOverride(true);
     Opener::setAction([](const QUrl &address) { s_visited.append(address.toString()); });
 }
 
@@ -147,6 +149,16 @@ void QuickWorld::chooseSoftware(const QString &id)
     model().setSoftwareID(orNothing(id));
 }
 
+void QuickWorld::chooseVideo(const QString &id)
+{
+    model().setVideoID(orNothing(id));
+}
+
+void QuickWorld::setOnline(bool online)
+{
+    NetStatus::setOverride(online);
+}
+
 QStringList QuickWorld::visitedAddresses() const
 {
     return s_visited;
@@ -166,6 +178,11 @@ void QuickWorld::showQuiz(const QString &moduleID)
 void QuickWorld::tell(const QString &message)
 {
     model().setMessage(message);
+}
+
+QString QuickWorld::message() const
+{
+    return model().messageText();
 }
 
 QString QuickWorld::noteTarget() const

@@ -42,10 +42,15 @@ public:
     Q_INVOKABLE void chooseGear(const QString &id);
     Q_INVOKABLE void chooseEvent(const QString &id);
     Q_INVOKABLE void chooseSoftware(const QString &id);
+    Q_INVOKABLE void chooseVideo(const QString &id);
+    /// Every test begins with a network.
+    Q_INVOKABLE void setOnline(bool online);
     /// What has been handed to the browser, in order.
     Q_INVOKABLE [[nodiscard]] QStringList visitedAddresses() const;
     Q_INVOKABLE void showQuiz(const QString &moduleID);
     Q_INVOKABLE void tell(const QString &message);
+    /// The message to the user; empty if there is none.
+    Q_INVOKABLE [[nodiscard]] QString message() const;
     /// Type and id of the target of the note that is being written.
     Q_INVOKABLE [[nodiscard]] QString noteTarget() const;
 

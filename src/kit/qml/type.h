@@ -25,6 +25,7 @@ class Type : public QObject
     Q_PROPERTY(QFont hitTitle MEMBER hitTitle CONSTANT)
     Q_PROPERTY(QFont groupCaption MEMBER groupCaption CONSTANT)
     Q_PROPERTY(QFont sectionCaption MEMBER sectionCaption CONSTANT)
+    Q_PROPERTY(QFont listCaption MEMBER listCaption CONSTANT)
     Q_PROPERTY(QFont kitCaption MEMBER kitCaption CONSTANT)
     Q_PROPERTY(QFont prose MEMBER prose CONSTANT)
     Q_PROPERTY(QFont message MEMBER message CONSTANT)
@@ -51,6 +52,8 @@ class Type : public QObject
     Q_PROPERTY(QFont menuTitle MEMBER menuTitle CONSTANT)
     Q_PROPERTY(QFont row MEMBER row CONSTANT)
     Q_PROPERTY(QFont currentRow MEMBER currentRow CONSTANT)
+    Q_PROPERTY(QFont filmRow MEMBER filmRow CONSTANT)
+    Q_PROPERTY(QFont selectedFilmRow MEMBER selectedFilmRow CONSTANT)
     Q_PROPERTY(QFont pill MEMBER pill CONSTANT)
     Q_PROPERTY(QFont tag MEMBER tag CONSTANT)
     Q_PROPERTY(QFont dial MEMBER dial CONSTANT)
@@ -79,6 +82,7 @@ public:
     const QFont hitTitle = Fonts::rounded(13, QFont::Bold);
     const QFont groupCaption = Fonts::rounded(11, QFont::ExtraBold, 1.5);
     const QFont sectionCaption = Fonts::rounded(10.5, QFont::ExtraBold, 1.2);
+    const QFont listCaption = Fonts::rounded(9.5, QFont::ExtraBold, 1);
     const QFont kitCaption = Fonts::rounded(10, QFont::ExtraBold, 1.1);
 
     // Sentences.
@@ -109,6 +113,8 @@ public:
     const QFont compactChrome = Fonts::rounded(11, QFont::Bold);
     const QFont menuTitle = Fonts::rounded(12, QFont::Medium);
     const QFont row = Fonts::rounded(12);
+    const QFont filmRow = Fonts::rounded(12, QFont::Medium);
+    const QFont selectedFilmRow = Fonts::rounded(12, QFont::ExtraBold);
     const QFont currentRow = Fonts::rounded(12, QFont::Bold);
 
     // Lettering in capitals.

@@ -50,6 +50,11 @@ const Video *selected(const std::optional<QString> &videoID, const QList<const V
     return shown.isEmpty() ? nullptr : shown.first();
 }
 
+QString found(qsizetype count)
+{
+    return count == 1 ? u"1 video"_s : u"%1 videos"_s.arg(count);
+}
+
 QString byline(const Video &video)
 {
     return video.channel + u" · " + video.length();

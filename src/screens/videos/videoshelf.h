@@ -36,6 +36,9 @@ struct Row {
 [[nodiscard]] const Video *selected(const std::optional<QString> &videoID,
     const QList<const Video *> &shown, const ContentLibrary &library);
 
+/// What a filter has found: "1 video", "0 videos".
+[[nodiscard]] QString found(qsizetype count);
+
 /// "The Bench · 12:05".
 [[nodiscard]] QString byline(const Video &video);
 

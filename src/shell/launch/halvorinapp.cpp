@@ -3,6 +3,7 @@
 #include "kit/fonts.h"
 #include "kit/kit.h"
 #include "kit/motion.h"
+#include "kit/netstatus.h"
 #include "kit/qml/kitwindows.h"
 #include "selfcheck/diagramsheet.h"
 #include "selfcheck/selftest/childmodes.h"
@@ -170,6 +171,7 @@ void HalvorinApp::start(int &argc, char **argv)
         tidyEnvironment();
         QGuiApplication::setWindowIcon(CRVNKitHost::icon());
         Motion::shared().followDesktop();
+        NetStatus::shared().start();
         m_indexing = HVSetup::indexCourse();
     };
     QObject::connect(m_window.get(), &QQuickWindow::frameSwapped, m_application.get(),
