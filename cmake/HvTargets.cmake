@@ -59,11 +59,11 @@ function(hv_add_qml_module folder)
     hv_precompile(${target} quick)
 endfunction()
 
-# hv_add_qml_plugin(<folder> URI … CLASS … SOURCES … QML_FILES … PRIVATE …)
+# hv_add_qml_plugin(<folder> URI … CLASS … SOURCES … QML_FILES … PRIVATE … BASED_ON …)
 # A QML module that the program isn't linked with but loads when it needs it, from the folder
-# HVInfo::pluginFolder(). CLASS is its QQmlEngineExtensionPlugin, among the sources.
+# HVInfo::pluginFolder(). CLASS is its QQmlEngineExtensionPlugin, among the sources; BASED_ON as above.
 function(hv_add_qml_plugin folder)
-    cmake_parse_arguments(arg "" "URI;CLASS" "SOURCES;QML_FILES;PRIVATE" ${ARGN})
+    cmake_parse_arguments(arg "" "URI;CLASS" "SOURCES;QML_FILES;PRIVATE;BASED_ON" ${ARGN})
     set(target hv_${folder}_plugin)
     string(REPLACE "." "/" path "${arg_URI}")
     qt_add_qml_module(${target} SHARED
@@ -77,7 +77,7 @@ function(hv_add_qml_plugin folder)
         OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/plugins/${path}"
         SOURCES ${arg_SOURCES}
         QML_FILES ${arg_QML_FILES}
-        DEPENDENCIES QtQuick)
+        DEPENDENCIES QtQuick ${arg_BASED_ON})
     target_include_directories(${target}
         PRIVATE "${PROJECT_SOURCE_DIR}/src" "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${target} PRIVATE Qt6::Quick ${arg_PRIVATE} hv_warnings)

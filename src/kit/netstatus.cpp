@@ -1,5 +1,9 @@
 #include "kit/netstatus.h"
 
+#ifdef Q_OS_LINUX
+#include "kit/routewatch.h"
+#endif
+
 NetStatus &NetStatus::shared()
 {
     static NetStatus status;
@@ -20,6 +24,13 @@ void NetStatus::start()
     const QNetworkInformation *platform = QNetworkInformation::instance();
     connect(platform, &QNetworkInformation::reachabilityChanged, this, &NetStatus::follow);
     follow(platform->reachability());
+#ifdef Q_OS_LINUX
+    const auto *routes = new RouteWatch(this);
+    connect(routes, &RouteWatch::changed, this, [this] {
+        follow(RouteWatch::hasWayOut() ? QNetworkInformation::Reachability::Online
+                                       : QNetworkInformation::Reachability::Disconnected);
+    });
+#endif
 }
 
 void NetStatus::setOverride(std::optional<bool> online)

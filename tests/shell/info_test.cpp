@@ -52,11 +52,13 @@ protected:
             qFatal("The program can't be installed for a test.");
     }
 
-    [[nodiscard]] QString contentFolder() const
+    [[nodiscard]] QString contentFolder() const { return printed({}); }
+    [[nodiscard]] QString pluginFolder() const { return printed({ u"plugins"_s }); }
+    [[nodiscard]] QString printed(const QStringList &arguments) const
     {
         QProcess program;
         program.setWorkingDirectory(home.path());
-        program.start(prefix + u"/bin/program"_s, QStringList());
+        program.start(prefix + u"/bin/program"_s, arguments);
         program.waitForFinished();
         EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
         EXPECT_EQ(program.exitCode(), 0);
@@ -277,4 +279,11 @@ TEST_F(HVInfoInstalled, AFileBesideTheExecutableIsNoContentFolder)
 TEST_F(HVInfoInstalled, AContentFolderThatIsMissingIsNamedAllTheSame)
 {
     EXPECT_EQ(contentFolder(), prefix + u"/share/crvn-halvorin/content"_s);
+}
+
+TEST_F(HVInfoInstalled, PluginsStandBesideTheExecutableOrUnderThePrefix)
+{
+    EXPECT_EQ(pluginFolder(), prefix + u"/lib/crvn-halvorin"_s);
+    ASSERT_TRUE(QDir().mkpath(prefix + u"/bin/plugins"_s));
+    EXPECT_EQ(pluginFolder(), prefix + u"/bin/plugins"_s);
 }

@@ -1,4 +1,5 @@
-// A second process for the tests of HVInfo: prints the content folder of wherever it stands.
+// A second process for the tests of HVInfo: prints the content folder of wherever it stands or, if
+// it is given an argument, the folder of the plugins.
 
 #include "shell/info.h"
 
@@ -9,6 +10,6 @@
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    std::puts(qPrintable(HVInfo::contentFolder()));
+    std::puts(qPrintable(argc > 1 ? HVInfo::pluginFolder() : HVInfo::contentFolder()));
     return 0;
 }

@@ -49,7 +49,7 @@ TestCase {
         return rows().find(item => item.title === title);
     }
     function captions() {
-        return Find.all(list(), item => item.section !== undefined && item.text !== undefined).sort((a, b) => a.y - b.y).map(item => item.text);
+        return Find.all(list(), item => item.visible && item.section !== undefined && item.text !== undefined).sort((a, b) => a.y - b.y).map(item => item.text);
     }
     function shows(words) {
         return Find.text(view, words) !== null;

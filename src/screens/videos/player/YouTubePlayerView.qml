@@ -51,7 +51,7 @@ FocusScope {
         onRefused: view.fullScreenCancelled()
     }
     Shortcut {
-        sequences: [StandardKey.Cancel]
+        sequence: "Escape"
         enabled: screen.active
         onActivated: view.fullScreenCancelled()
     }
