@@ -31,6 +31,15 @@ QLocale spoken(const QLocale &locale)
                                            : locale;
 }
 
+// A date that is written from the right would draw its English surroundings into its direction: of
+// two scores with their dates in one line, the second would stand before the first.
+QString isolated(const QString &date)
+{
+    constexpr QChar firstStrongIsolate(0x2068);
+    constexpr QChar popIsolate(0x2069);
+    return date.isRightToLeft() ? firstStrongIsolate + date + popIsolate : date;
+}
+
 } // namespace
 
 DateFormatter::DateFormatter(const QLocale &locale)
@@ -41,10 +50,10 @@ DateFormatter::DateFormatter(const QLocale &locale)
 
 QString DateFormatter::day(const QDateTime &moment) const
 {
-    return m_locale.toString(moment.toLocalTime(), m_day);
+    return isolated(m_locale.toString(moment.toLocalTime(), m_day));
 }
 
 QString DateFormatter::dayAndTime(const QDateTime &moment) const
 {
-    return m_locale.toString(moment.toLocalTime(), m_dayAndTime);
+    return isolated(m_locale.toString(moment.toLocalTime(), m_dayAndTime));
 }

@@ -9,7 +9,9 @@
 /// "Nov 15, 2026 at 3:04 PM" in en_US, "15. Nov. 2026, 15:04" in de_DE.
 ///
 /// QLocale knows a long date, which opens with the weekday, and a short one of figures alone. The
-/// medium one is the long one without its weekday and with the month's short name.
+/// medium one is the long one without its weekday and with the month's short name. One that is
+/// written from the right stands between isolating marks (Unicode Standard Annex 9), so that it
+/// can be put into an English line.
 class DateFormatter
 {
 public:

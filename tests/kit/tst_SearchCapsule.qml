@@ -73,6 +73,11 @@ TestCase {
         compare(field.text, "");
     }
 
+    function test_begins_at_the_left_in_every_language() {
+        capsule.query = "عدسة";
+        compare(field.effectiveHorizontalAlignment, TextInput.AlignLeft);
+    }
+
     function test_takes_markup_as_text() {
         type("<b>");
         compare(capsule.query, "<b>");

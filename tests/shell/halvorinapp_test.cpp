@@ -2,6 +2,7 @@
 
 #include "shell/launch/halvorinapp.h"
 
+#include "shell/appmodel.h"
 #include "shell/launch/singleinstance.h"
 #include "store/storetesting.h"
 #include "support/environment.h"
@@ -42,18 +43,22 @@ public:
     {
         TestCourse::write(m_home.path(u"course"_s));
         m_app = std::make_unique<HalvorinApp>(m_argc, m_argv);
+        m_firstScreen = AppModel::shared().screen();
     }
+
+    /// What the window showed when it was new.
+    [[nodiscard]] Screen firstScreen() const { return m_firstScreen; }
 
     [[nodiscard]] HalvorinApp &app() const { return *m_app; }
 
     // What the process of a later launch does; the token is the desktop's permission to it. It
     // waits for the answer of this thread's event loop, so it has a thread of its own.
-    [[nodiscard]] std::future<void> launchAgain(const QByteArray &token = {}) const
+    [[nodiscard]] std::future<void> launchAgain(const SingleInstance::Call &call = {}) const
     {
-        return std::async(std::launch::async, [folder = m_home.path(), token] {
+        return std::async(std::launch::async, [folder = m_home.path(), call] {
             SingleInstance later(folder);
             ASSERT_FALSE(later.isFirst());
-            later.callFirst(token);
+            later.callFirst(call);
         });
     }
 
@@ -68,10 +73,13 @@ private:
     EnvironmentVariable m_token{ "XDG_ACTIVATION_TOKEN", u"token-of-the-launch"_s };
     EnvironmentVariable m_fontResolution{ "QT_FONT_DPI", u"120"_s };
     EnvironmentVariable m_content{ "HV_CONTENT", m_home.path(u"course"_s) };
-    int m_argc = 1;
+    int m_argc = 3;
     char m_name[9] = "halvorin";
-    char *m_argv[2] = { m_name, nullptr };
+    char m_option[9] = "--screen";
+    char m_screen[5] = "lens";
+    char *m_argv[4] = { m_name, m_option, m_screen, nullptr };
     std::unique_ptr<HalvorinApp> m_app;
+    Screen m_firstScreen = Screen::Home;
 };
 
 class HalvorinAppTest : public ::testing::Test
@@ -105,6 +113,11 @@ TEST_F(HalvorinAppTest, ShowsOneWindowUnderTheProgramsName)
     // One that is set is written behind the title of every other window.
     EXPECT_EQ(QGuiApplication::applicationDisplayName(), QCoreApplication::applicationName());
     EXPECT_EQ(QCoreApplication::applicationName(), u"CRVN Halvorin"_s);
+}
+
+TEST_F(HalvorinAppTest, ShowsTheScreenThatTheLaunchAskedFor)
+{
+    EXPECT_EQ(machine->firstScreen(), Screen::Lens);
 }
 
 TEST_F(HalvorinAppTest, CountsADesignPointAsAPixelOfTheDesktop)
@@ -149,7 +162,8 @@ TEST_F(HalvorinAppTest, ALaterLaunchHandsItsPermissionToTheWindow)
             token = qgetenv("XDG_ACTIVATION_TOKEN");
     });
     // when
-    const std::future<void> later = machine->launchAgain("token-of-the-desktop");
+    const std::future<void> later
+        = machine->launchAgain({ .activationToken = "token-of-the-desktop" });
     EXPECT_TRUE(waitUntil([] { return window().windowState() == Qt::WindowNoState; }));
     QObject::disconnect(lookForIt);
     // then
@@ -189,4 +203,44 @@ TEST_F(HalvorinAppTest, ALaterLaunchLeavesAWindowOnTheFullScreen)
     const std::future<void> later = machine->launchAgain();
     EXPECT_TRUE(waitUntil([] { return window().isActive(); }));
     EXPECT_EQ(window().windowStates(), Qt::WindowFullScreen);
+}
+
+TEST_F(HalvorinAppTest, ALaterLaunchComesToTheFrontWithTheScreenThatItAsksFor)
+{
+    // given search results that would cover it
+    AppModel::shared().setScreen(Screen::Notes);
+    AppModel::shared().setGlobalQuery(u"lens"_s);
+    lookElsewhere();
+    // when
+    const std::future<void> later = machine->launchAgain({ .request = "exposure" });
+    // then
+    EXPECT_TRUE(waitUntil([] { return window().isActive(); }));
+    EXPECT_EQ(AppModel::shared().screen(), Screen::Exposure);
+    EXPECT_FALSE(AppModel::shared().showsResults());
+}
+
+TEST_F(HalvorinAppTest, ALaterLaunchGoesOnWithTheCourse)
+{
+    // given the first lesson of three finished
+    AppModel::shared().setScreen(Screen::Home);
+    UserStore::shared()->setComplete(u"a1-l1"_s, true);
+    lookElsewhere();
+    // when
+    const std::future<void> later = machine->launchAgain({ .request = "continue" });
+    // then
+    EXPECT_TRUE(waitUntil([] { return window().isActive(); }));
+    EXPECT_EQ(AppModel::shared().screen(), Screen::Course);
+    EXPECT_EQ(AppModel::shared().lessonID(), u"a1-l2"_s);
+}
+
+TEST_F(HalvorinAppTest, ALaterLaunchThatAsksForNothingLeavesTheScreenAndTheSearch)
+{
+    AppModel::shared().setScreen(Screen::Gear);
+    AppModel::shared().setGlobalQuery(u"tripod"_s);
+    lookElsewhere();
+    const std::future<void> later = machine->launchAgain();
+    EXPECT_TRUE(waitUntil([] { return window().isActive(); }));
+    EXPECT_EQ(AppModel::shared().screen(), Screen::Gear);
+    EXPECT_TRUE(AppModel::shared().showsResults());
+    AppModel::shared().setGlobalQuery({});
 }

@@ -49,9 +49,9 @@ TEST_F(Launch, HelpNamesEveryOptionAndVariable)
     Program program(home, { u"--help"_s });
     EXPECT_EQ(program.status(), 0);
     const QString help = program.output();
-    for (const QString &word :
-        { u"--help"_s, u"--version"_s, u"--selftest"_s, u"--hv-snapshot FOLDER"_s,
-            u"--diagram-sheet FILE"_s, u"HV_CONTENT"_s, u"HV_DB_PATH"_s })
+    for (const QString &word : { u"--help"_s, u"--version"_s, u"--continue"_s, u"--screen NAME"_s,
+             u"--selftest"_s, u"--hv-snapshot FOLDER"_s, u"--diagram-sheet FILE"_s, u"HV_CONTENT"_s,
+             u"HV_DB_PATH"_s })
         EXPECT_TRUE(help.contains(word)) << qPrintable(word);
     EXPECT_TRUE(help.endsWith(u'\n'));
     EXPECT_EQ(program.complaints(), u""_s);
@@ -120,6 +120,17 @@ TEST_F(Launch, ADiagramSheetWithoutAFileSaysHowItIsAskedFor)
     EXPECT_EQ(home.fingerprint(), before);
 }
 
+TEST_F(Launch, AScreenThatThereIsNotSaysWhichThereAre)
+{
+    const Fingerprint before = home.fingerprint();
+    Program program(home, { u"--screen"_s, u"darkroom"_s });
+    EXPECT_EQ(program.status(), 2);
+    EXPECT_EQ(program.output(), u""_s);
+    EXPECT_EQ(program.complaints(),
+        u"Usage: halvorin --screen home|course|exposure|lens|history|gear|workflow|videos|notes\n"_s);
+    EXPECT_EQ(home.fingerprint(), before);
+}
+
 TEST_F(Launch, TheCameraOpensWithoutACourse)
 {
     home.environment.insert(u"HV_CONTENT"_s, home.path(u"no course"_s));
@@ -140,6 +151,20 @@ TEST_F(Launch, ASecondLaunchEndsSilentlyAndTheFirstRunsOn)
     EXPECT_EQ(second.status(), 0);
     EXPECT_EQ(second.output(), u""_s);
     EXPECT_EQ(second.complaints(), u""_s);
+    expectToRunAndEnd(first);
+}
+
+TEST_F(Launch, ASecondLaunchWithAWishEndsAsSilently)
+{
+    Program first(home);
+    ASSERT_TRUE(first.waitUntilItAnswers());
+    for (const QStringList &wish :
+        { QStringList{ u"--continue"_s }, QStringList{ u"--screen"_s, u"exposure"_s } }) {
+        Program second(home, wish);
+        EXPECT_EQ(second.status(), 0);
+        EXPECT_EQ(second.output(), u""_s);
+        EXPECT_EQ(second.complaints(), u""_s);
+    }
     expectToRunAndEnd(first);
 }
 

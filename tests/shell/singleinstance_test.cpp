@@ -70,7 +70,10 @@ public:
     explicit Calls(const SingleInstance &instance)
     {
         QObject::connect(&instance, &SingleInstance::called, &m_receiver,
-            [this](const QByteArray &token) { m_tokens.append(token); });
+            [this](const SingleInstance::Call &call) {
+                m_tokens.append(call.activationToken);
+                m_requests.append(call.request);
+            });
     }
 
     // The tokens so far, as soon as there are so many.
@@ -84,8 +87,11 @@ public:
         return m_tokens;
     }
 
+    [[nodiscard]] const QByteArrayList &requests() const { return m_requests; }
+
 private:
     QByteArrayList m_tokens;
+    QByteArrayList m_requests;
     QObject m_receiver; // last, so that no call reaches a list that has gone
 };
 
@@ -94,10 +100,13 @@ class SingleInstanceTest : public ::testing::Test
 protected:
     // Calls the first from a thread of its own, since it waits for the answer of this one's event
     // loop.
-    [[nodiscard]] std::future<void> call(const QByteArray &token) const
+    [[nodiscard]] std::future<void> call(
+        const QByteArray &token, const QByteArray &request = {}) const
     {
         return std::async(std::launch::async,
-            [path = folder.path(), token] { SingleInstance(path).callFirst(token); });
+            [path = folder.path(), call = SingleInstance::Call{ token, request }] {
+                SingleInstance(path).callFirst(call);
+            });
     }
 
     [[nodiscard]] QString lockFile() const { return folder.path(u"crvn-halvorin.lock"_s); }
@@ -325,6 +334,24 @@ TEST_F(SingleInstanceTest, ALongTokenArrivesWhole)
     EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ token }));
 }
 
+TEST_F(SingleInstanceTest, ARequestReachesTheFirstBesideTheToken)
+{
+    const SingleInstance first(folder.path());
+    Calls calls(first);
+    const std::future<void> caller = call("gnome shell 12_TIME34", "continue");
+    EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ "gnome shell 12_TIME34" }));
+    EXPECT_EQ(calls.requests(), (QByteArrayList{ "continue" }));
+}
+
+TEST_F(SingleInstanceTest, ARequestWithoutATokenReachesTheFirst)
+{
+    const SingleInstance first(folder.path());
+    Calls calls(first);
+    const std::future<void> caller = call({}, "exposure");
+    EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ QByteArray() }));
+    EXPECT_EQ(calls.requests(), (QByteArrayList{ "exposure" }));
+}
+
 TEST_F(SingleInstanceTest, EveryCallReachesTheFirst)
 {
     const SingleInstance first(folder.path());
@@ -384,7 +411,7 @@ TEST_F(SingleInstanceTest, ACallWaitsForAFirstThatDoesNotListenYet)
     ASSERT_TRUE(server.waitForNewConnection(kPatience));
     QLocalSocket *caller = server.nextPendingConnection();
     while (!caller->canReadLine() && caller->waitForReadyRead(kPatience)) { }
-    EXPECT_EQ(caller->readLine(), "token\n");
+    EXPECT_EQ(caller->readLine(), " token\n");
 }
 
 TEST_F(SingleInstanceTest, ACallThatNobodyTakesEnds)
@@ -395,7 +422,7 @@ TEST_F(SingleInstanceTest, ACallThatNobodyTakesEnds)
     // then: it gives up, for the user is waiting
     SingleInstance second(folder.path());
     ASSERT_FALSE(second.isFirst());
-    second.callFirst("token");
+    second.callFirst({ .activationToken = "token" });
     EXPECT_FALSE(QFileInfo::exists(socketFile()));
 }
 
@@ -439,7 +466,7 @@ TEST_F(SingleInstanceTest, ACallerThatTookThePlaceOfTheFirstCanBeCalled)
     ASSERT_FALSE(second.isFirst());
     // when
     lock.reset();
-    second.callFirst("for the one that has ended");
+    second.callFirst({ .activationToken = "for the one that has ended" });
     // then
     ASSERT_TRUE(second.isFirst());
     Calls calls(second);

@@ -1,7 +1,7 @@
 // A second process for the tests of SingleInstance.
 //
-//     child hold <folder>           tries to be the first and stays until its input ends
-//     child call <folder> <token>   calls the first and ends
+//     child hold <folder>                       tries to be the first and stays until its input
+//     ends child call <folder> <token> [<request>]   calls the first and ends
 //         Prints "first" or "later", once that is decided; the second prints it again after
 //         the call.
 
@@ -25,7 +25,8 @@ int main(int argc, char **argv)
     };
     printRank();
     if (arguments.value(1) == "call"_L1) {
-        instance.callFirst(arguments.value(3).toUtf8());
+        instance.callFirst({ .activationToken = arguments.value(3).toUtf8(),
+            .request = arguments.value(4).toUtf8() });
         printRank();
         return 0;
     }

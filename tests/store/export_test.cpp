@@ -210,6 +210,15 @@ INSTANTIATE_TEST_SUITE_P(Locales, Dates,
         DateCase{ "ja_JP", u"2026年11月15日"_s, u"2026年11月15日, 15:04"_s },
         DateCase{ "th_TH", u"15 พ.ย. 2026"_s, u"15 พ.ย. 2026, 15:04"_s }));
 
+TEST(DateFormatter, KeepsADateThatIsWrittenFromTheRightApartFromItsSurroundings)
+{
+    const QDateTime moment(QDate(2026, 11, 15), QTime(15, 4, 59));
+    const DateFormatter dates{ QLocale(QLocale::Arabic, QLocale::Egypt) };
+    EXPECT_EQ(dates.day(moment), u"\u2068١٥ نوفمبر ٢٠٢٦\u2069"_s);
+    EXPECT_TRUE(dates.dayAndTime(moment).startsWith(u"\u2068١٥ نوفمبر ٢٠٢٦"_s));
+    EXPECT_TRUE(dates.dayAndTime(moment).endsWith(u'\u2069'));
+}
+
 TEST(DateFormatter, TellsLocalTime)
 {
     const QDateTime moment = QDateTime::fromSecsSinceEpoch(1791000000, Qt::UTC);

@@ -72,6 +72,9 @@ Item {
         selectedTextColor: "white"
         selectByMouse: true
         maximumLength: 8000 // Several pages; the field lays all of it out.
+        // Beside the prompt; by itself the cursor of an empty field goes where the keyboard's language
+        // begins its lines.
+        horizontalAlignment: TextInput.AlignLeft
         verticalAlignment: TextInput.AlignVCenter
         font: Type.field
         onTextEdited: root.edited(field.text)

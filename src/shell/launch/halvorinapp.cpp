@@ -12,6 +12,7 @@
 #include "selfcheck/themesheet.h"
 #include "shell/appmodel.h"
 #include "shell/info.h"
+#include "shell/launch/request.h"
 #include "shell/launch/savepanel.h"
 #include "shell/launch/scenegraph.h"
 #include "shell/launch/singleinstance.h"
@@ -35,7 +36,10 @@ constexpr auto kActivationToken = "XDG_ACTIVATION_TOKEN";
 
 constexpr auto kHelp = R"(Usage: halvorin [option]
 
-Opens the camera. Options:
+Opens the camera, or brings the one that is open to the front. Options:
+  --continue             go on with the course
+  --screen NAME          go to a screen: home, course, exposure, lens, history,
+                         gear, workflow, videos or notes
   --help                 show this text
   --version              show the version
   --selftest             check the program and its course, say what was found and end
@@ -76,6 +80,10 @@ std::optional<int> statusOfModes(const QStringList &arguments)
         print(HVInfo::appName + u' ' + HVInfo::version() + u'\n');
         return 0;
     }
+    if (!Launch::requestIn(arguments)) {
+        QTextStream(stderr) << Launch::usageOfScreen();
+        return 2;
+    }
     return std::nullopt;
 }
 
@@ -106,7 +114,9 @@ HalvorinApp::HalvorinApp(int &argc, char **argv)
     // One design point is one logical pixel, on every desktop.
     qputenv(kFontResolution, "72");
 
-    m_status = statusOfModes(argumentList(argc, argv));
+    const QStringList arguments = argumentList(argc, argv);
+    m_status = statusOfModes(arguments);
+    m_request = Launch::requestIn(arguments).value_or(QString());
     if (!m_status)
         start(argc, argv);
 }
@@ -121,13 +131,16 @@ void HalvorinApp::start(int &argc, char **argv)
 
     m_instance = std::make_unique<SingleInstance>();
     if (!m_instance->isFirst())
-        m_instance->callFirst(qgetenv(kActivationToken));
+        m_instance->callFirst(
+            { .activationToken = qgetenv(kActivationToken), .request = m_request.toLatin1() });
     if (!m_instance->isFirst()) {
         m_status = 0;
         return;
     }
     QObject::connect(m_instance.get(), &SingleInstance::called, m_application.get(),
-        [this](const QByteArray &token) { bringToFront(token); });
+        [this](const SingleInstance::Call &call) {
+            answer(call.activationToken, QString::fromLatin1(call.request));
+        });
 
     HVSetup::configure();
     m_engine = std::make_unique<QQmlEngine>();
@@ -147,6 +160,7 @@ void HalvorinApp::start(int &argc, char **argv)
     Launch::quitOnTerminationSignals();
     HVSetup::openStore();
     course.wait();
+    Launch::fulfill(m_request);
 
     m_window.reset(qobject_cast<QQuickWindow *>(component.create()));
     if (!m_window)
@@ -182,11 +196,19 @@ int HalvorinApp::run()
     return m_status ? *m_status : QGuiApplication::exec();
 }
 
+void HalvorinApp::answer(const QByteArray &activationToken, const QString &request)
+{
+    if (m_window) {
+        Launch::fulfill(request);
+        bringToFront(activationToken);
+    } else if (!request.isEmpty()) {
+        m_request = request; // Course and progress aren't there yet.
+    }
+}
+
 void HalvorinApp::bringToFront(const QByteArray &activationToken)
 {
     QQuickWindow *camera = m_window.get();
-    if (!camera)
-        return;
     // The platform takes the token of the launch that asks from where a launch would leave it.
     if (!activationToken.isEmpty())
         qputenv(kActivationToken, activationToken);

@@ -20,7 +20,8 @@ class SingleInstance;
 /// are passed over.
 ///
 /// The camera belongs to one process at a time. A second launch brings the first one's window to
-/// the front and ends, silently and with status 0, before it has touched the user's file.
+/// the front, hands over what it was asked to show (request.h), and ends, silently and with status
+/// 0, before it has touched the user's file.
 class HalvorinApp
 {
 public:
@@ -39,11 +40,13 @@ public:
 
 private:
     void start(int &argc, char **argv);
+    void answer(const QByteArray &activationToken, const QString &request);
     void bringToFront(const QByteArray &activationToken);
     void tidyEnvironment() const;
 
     std::optional<QByteArray> m_fontResolution; ///< As the user has set it, if at all.
     std::optional<int> m_status;                ///< Set once there is nothing left to do.
+    QString m_request;                          ///< What the window is to show when it is there.
     std::unique_ptr<QGuiApplication> m_application;
     std::unique_ptr<SingleInstance> m_instance;
     std::unique_ptr<QQmlEngine> m_engine;

@@ -18,6 +18,7 @@ namespace {
 constexpr int kPatience = 2000; // ms
 constexpr int kPause = 20;      // ms
 constexpr qint64 kLongestToken = 4096;
+constexpr qint64 kLongestRequest = 64;
 
 bool isAlive(qint64 process)
 {
@@ -78,7 +79,7 @@ void SingleInstance::listen()
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&m_server, &QLocalServer::newConnection, this, [this] {
         while (QLocalSocket *caller = m_server.nextPendingConnection()) {
-            caller->setReadBufferSize(kLongestToken + 1);
+            caller->setReadBufferSize(kLongestRequest + 1 + kLongestToken + 1);
             connect(caller, &QLocalSocket::readyRead, this, [this, caller] { hear(caller); });
             connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
         }
@@ -90,18 +91,22 @@ void SingleInstance::hear(QLocalSocket *caller)
 {
     if (!caller->canReadLine())
         return;
-    const QByteArray token = caller->readLine().chopped(1);
+    const QByteArray line = caller->readLine().chopped(1);
     caller->write("\n");
     caller->flush();
-    Q_EMIT called(token);
+    const qsizetype blank = line.indexOf(' ');
+    Q_EMIT called(
+        { .activationToken = line.mid(blank + 1), .request = line.first(qMax(blank, 0)) });
 }
 
-void SingleInstance::callFirst(const QByteArray &activationToken)
+void SingleInstance::callFirst(const Call &call)
 {
-    const QByteArray call = activationToken.left(kLongestToken) + '\n';
+    Q_ASSERT(!call.request.contains(' ') && call.request.size() <= kLongestRequest);
+    // The request goes first: a token is the desktop's own, and may hold blanks.
+    const QByteArray line = call.request + ' ' + call.activationToken.left(kLongestToken) + '\n';
     const QDeadlineTimer deadline(kPatience);
     // The first instance may have its lock and not its socket yet, or be about to end.
-    while (!isAnswered(call, deadline)) {
+    while (!isAnswered(line, deadline)) {
         m_first = takeLock();
         if (m_first)
             return listen();
@@ -111,12 +116,12 @@ void SingleInstance::callFirst(const QByteArray &activationToken)
     }
 }
 
-bool SingleInstance::isAnswered(const QByteArray &call, const QDeadlineTimer &deadline) const
+bool SingleInstance::isAnswered(const QByteArray &line, const QDeadlineTimer &deadline) const
 {
     QLocalSocket first;
     first.connectToServer(m_socketPath);
     if (!first.waitForConnected(int(deadline.remainingTime())))
         return false;
-    first.write(call);
+    first.write(line);
     return first.waitForReadyRead(int(deadline.remainingTime()));
 }

@@ -11,11 +11,20 @@
 /// An exclusive lock file in the user's runtime folder decides, or in the data folder where the
 /// system has no fit one; a lock that a killed process left behind is no hindrance. The first
 /// instance listens on a local socket beside it, so that later ones can ask it to come to the
-/// front: a call is one line, and so is its answer.
+/// front and to show something: a call is one line, and so is its answer.
 class SingleInstance : public QObject
 {
     Q_OBJECT
 public:
+    /// What a later launch has to say.
+    struct Call {
+        QByteArray
+            activationToken; ///< The desktop's permission to come to the front; no line ends.
+        QByteArray request;  ///< What it wants to see (request.h): one word, or nothing.
+
+        friend bool operator==(const Call &, const Call &) = default;
+    };
+
     /// Tries to be the first. A folder that can't be written to keeps nobody out: then
     /// this instance counts as the first, and can't be called.
     explicit SingleInstance(QObject *parent = nullptr);
@@ -26,19 +35,18 @@ public:
 
     /// Asks the first instance to come to the front, and waits until it has answered or two seconds
     /// have passed. If it ends meanwhile without an answer, this instance takes its place and
-    /// isFirst() from then on. `activationToken` is the desktop's permission to come to the front,
-    /// without line ends; it may be empty.
-    void callFirst(const QByteArray &activationToken);
+    /// isFirst() from then on.
+    void callFirst(const Call &call);
 
 Q_SIGNALS:
     /// A later launch asks for this instance.
-    void called(const QByteArray &activationToken);
+    void called(const SingleInstance::Call &call);
 
 private:
     [[nodiscard]] bool takeLock();
     void listen();
     void hear(QLocalSocket *caller);
-    [[nodiscard]] bool isAnswered(const QByteArray &call, const QDeadlineTimer &deadline) const;
+    [[nodiscard]] bool isAnswered(const QByteArray &line, const QDeadlineTimer &deadline) const;
 
     QString m_socketPath;
     QLockFile m_lock;
