@@ -65,3 +65,11 @@ WindowPlace placeOn(const QList<QRect> &screens, const QRect &area, QSize minimu
     return { .size = size.expandedTo(minimum),
         .position = screen ? std::optional(area.topLeft()) : std::nullopt };
 }
+
+QSize firstSizeOn(const QRect &screen, QSize usual, QSize minimum)
+{
+    constexpr int titleBar = 40; // of the desktops with high ones
+    const QSize room = screen.size() - QSize(0, titleBar);
+    const bool hasRoom = room.width() >= minimum.width() && room.height() >= minimum.height();
+    return hasRoom ? usual.boundedTo(room) : usual;
+}

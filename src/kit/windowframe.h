@@ -34,3 +34,8 @@ struct WindowPlace {
 /// The position is kept only where enough of the upper edge lies on a screen to take the window
 /// by. The size is at most that of the screen, but never below `minimum`.
 [[nodiscard]] WindowPlace placeOn(const QList<QRect> &screens, const QRect &area, QSize minimum);
+
+/// How large a window begins that has no place yet: `usual`, as far as `screen` has room for it
+/// under a title bar. Where there is none even for `minimum`, `usual` as it is, for nothing would
+/// be won.
+[[nodiscard]] QSize firstSizeOn(const QRect &screen, QSize usual, QSize minimum);

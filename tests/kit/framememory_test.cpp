@@ -36,9 +36,10 @@ protected:
             import Halvorin.Kit
             Window {
                 id: root
+                property size usual: Qt.size(400, 300)
                 property bool placed: memory.placed
-                width: memory.size(Qt.size(400, 300)).width
-                height: memory.size(Qt.size(400, 300)).height
+                width: memory.size(usual, Qt.size(120, 100)).width
+                height: memory.size(usual, Qt.size(120, 100)).height
                 minimumWidth: 120
                 minimumHeight: 100
                 FrameMemory { id: memory; name: "test"; window: root }
@@ -67,6 +68,13 @@ TEST_F(FrameMemoryTest, BeginsWithTheUsualSize)
     const auto window = open();
     EXPECT_EQ(window->size(), QSize(400, 300));
     EXPECT_FALSE(window->property("placed").toBool());
+}
+
+TEST_F(FrameMemoryTest, BeginsNoLargerThanTheScreen)
+{
+    const auto window = open();
+    window->setProperty("usual", QSizeF(9000, 300));
+    EXPECT_EQ(window->size(), QSize(window->screen()->availableSize().width(), 300));
 }
 
 TEST_F(FrameMemoryTest, BringsSizeAndPlaceBack)

@@ -12,15 +12,16 @@ T.ApplicationWindow {
     id: root
 
     title: CNUI.appName
-    width: memory.size(metrics.usual).width
-    height: memory.size(metrics.usual).height
-    minimumWidth: Geometry.minimumWindow.width
-    minimumHeight: Geometry.minimumWindow.height + root.menuBar.height
+    width: memory.size(metrics.usual, metrics.smallest).width
+    height: memory.size(metrics.usual, metrics.smallest).height
+    minimumWidth: metrics.smallest.width
+    minimumHeight: metrics.smallest.height
     color: CNUI.theme.bg
 
     QtObject {
         id: metrics
         readonly property size usual: Qt.size(Geometry.usualWindow.width, Geometry.usualWindow.height + root.menuBar.height)
+        readonly property size smallest: Qt.size(Geometry.minimumWindow.width, Geometry.minimumWindow.height + root.menuBar.height)
     }
     FrameMemory {
         id: memory

@@ -11,14 +11,15 @@ CNWindow {
 
     title: qsTr("%1 Help").arg(CNUI.appName)
     placed: memory.placed
-    width: memory.size(metrics.usual).width
-    height: memory.size(metrics.usual).height
+    width: memory.size(metrics.usual, metrics.smallest).width
+    height: memory.size(metrics.usual, metrics.smallest).height
     minSize: Qt.size(680, 440)
-    minimumWidth: 480
-    minimumHeight: 320
+    minimumWidth: metrics.smallest.width
+    minimumHeight: metrics.smallest.height
 
     QtObject {
         id: metrics
+        readonly property size smallest: Qt.size(480, 320)
         // What is read magnified needs a larger window, as far as there is room.
         readonly property size usual: Qt.size(Math.min(860 * metrics.zoomAtFirst, Screen.desktopAvailableWidth - 40),
                                               Math.min(600 * metrics.zoomAtFirst, Screen.desktopAvailableHeight - 60))

@@ -44,10 +44,14 @@ bool FrameMemory::isPlaced() const
     return frame && place(*frame).position;
 }
 
-QSizeF FrameMemory::size(QSizeF usual) const
+QSizeF FrameMemory::size(QSizeF usual, QSizeF smallest) const
 {
-    const std::optional<WindowFrame> frame = stored();
-    return frame ? place(*frame).size.toSizeF() : usual;
+    if (const std::optional<WindowFrame> frame = stored())
+        return place(*frame).size.toSizeF();
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    if (!screen)
+        return usual;
+    return firstSizeOn(screen->availableGeometry(), usual.toSize(), smallest.toSize()).toSizeF();
 }
 
 void FrameMemory::componentComplete()

@@ -11,7 +11,7 @@
 /// "crvn.frame.<name>". Stands in the window:
 ///
 ///     FrameMemory { id: memory; name: "main"; window: root }
-///     width: memory.size(usual).width
+///     width: memory.size(usual, smallest).width
 ///
 /// The size has to be asked for, so that nothing is laid out in the usual one first; the place is
 /// taken before the window is shown.
@@ -30,8 +30,9 @@ public:
 
     [[nodiscard]] bool isPlaced() const;
 
-    /// The remembered size, as far as the screens have room for it, or else `usual`.
-    Q_INVOKABLE [[nodiscard]] QSizeF size(QSizeF usual) const;
+    /// The remembered size or else `usual`, as far as the screens have room for it; `smallest` is
+    /// the least that the window can have.
+    Q_INVOKABLE [[nodiscard]] QSizeF size(QSizeF usual, QSizeF smallest) const;
 
 protected:
     void classBegin() override { }
