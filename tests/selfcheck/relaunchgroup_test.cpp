@@ -85,8 +85,8 @@ TEST_F(ChildModes, EndWithFourAndTheErrorOnAFileThatCanNotBeWritten)
     // given: a table that takes nothing in
     {
         std::ignore = UserStore(QUrl::fromLocalFile(file()));
-        SQLiteDB(file()).exec(u"DROP TABLE bookmarks; CREATE TABLE bookmarks (target_type, "
-                              "target_id, created, CONSTRAINT 'no room for it' CHECK (0))"_s);
+        SQLiteDB(file()).exec(u"DROP TABLE notes; CREATE TABLE notes (id, target_type, target_id, "
+                              "body, created, updated, CONSTRAINT 'no room for it' CHECK (0))"_s);
     }
     // when
     Program child(home, { u"--hv-child-write"_s, file() });

@@ -765,7 +765,7 @@ TEST_F(LessonReadingTest, GoesOnEvenIfTheMarkCanNotBeWritten)
     EXPECT_EQ(model().lessonID(), u"l3"_s);
     EXPECT_EQ(model().moduleID(), u"time"_s);
     EXPECT_FALSE(store().isComplete(u"l2"_s));
-    EXPECT_TRUE(model().messageText().contains("the disk is full"_L1));
+    EXPECT_TRUE(model().messageText().contains("disk is full"_L1));
 }
 
 TEST_F(LessonReadingTest, TellsOfAMarkThatCanNotBeWritten)
@@ -777,12 +777,12 @@ TEST_F(LessonReadingTest, TellsOfAMarkThatCanNotBeWritten)
     lesson.toggleFinished();
     EXPECT_FALSE(lesson.finished());
     EXPECT_EQ(marks.times, 0);
-    EXPECT_TRUE(model().messageText().contains("the disk is full"_L1));
+    EXPECT_TRUE(model().messageText().contains("disk is full"_L1));
 
     model().dismissMessage();
     lesson.toggleBookmark();
     EXPECT_FALSE(lesson.bookmarked());
-    EXPECT_TRUE(model().messageText().contains("the disk is full"_L1));
+    EXPECT_TRUE(model().messageText().contains("disk is full"_L1));
 }
 
 TEST(LessonReadingWithoutAStore, ShowsNoMarksAndWritesNone)

@@ -95,7 +95,7 @@ TestCase {
         read("l1");
         World.fillDisk();
         mouseClick(button("Mark as finished"));
-        verify(AppModel.messageText.includes("the disk is full"));
+        verify(AppModel.messageText.includes("disk is full"));
         verify(button("Mark as finished"));
     }
 
@@ -103,7 +103,7 @@ TestCase {
         read("l1");
         World.fillDisk();
         mouseClick(button("Finish & next lesson"));
-        verify(AppModel.messageText.includes("the disk is full"));
+        verify(AppModel.messageText.includes("disk is full"));
         compare(World.lessonID(), "l2");
     }
 

@@ -132,7 +132,7 @@ TestCase {
         field().text = "Not to be lost";
         World.fillDisk();
         save();
-        const reason = Find.first(root(), item => Find.isText(item) && item.visible && item.text.includes("the disk is full"));
+        const reason = Find.first(root(), item => Find.isText(item) && item.visible && item.text.includes("disk is full"));
         verify(reason);
         compare(String(reason.color), String(CameraPalette.current.bad));
         compare(AppModel.messageText, "");

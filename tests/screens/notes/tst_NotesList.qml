@@ -147,7 +147,7 @@ TestCase {
         World.settle(list);
         mouseClick(button("Delete Note"));
         tryVerify(() => !question());
-        verify(AppModel.messageText.includes("the disk is full"));
+        verify(AppModel.messageText.includes("disk is full"));
         compare(World.noteBodies(), ["Stays"]);
         verify(note("Stays"));
     }

@@ -146,7 +146,7 @@ TestCase {
         answerAll("The hole", "On its head");
         World.fillDisk();
         press("Check my answers");
-        verify(AppModel.messageText.includes("the disk is full"));
+        verify(AppModel.messageText.includes("disk is full"));
         verify(button("Check my answers").enabled);
         verify(shows("2 of 2 answered"));
         compare(button("The hole").symbol, "largecircle.fill.circle");
