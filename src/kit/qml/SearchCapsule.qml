@@ -25,10 +25,14 @@ Item {
         field.selectAll();
     }
 
-    /*! Goes on with the search by what was typed elsewhere. */
-    function typeOn(typed: string): void {
+    /*! Goes on with the search by a key that was pressed elsewhere, if it types something. */
+    function typeOn(event: var): void {
+        const command = event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier);
+        event.accepted = !command && event.text.trim() !== "" && event.text >= " " && event.key !== Qt.Key_Delete;
+        if (!event.accepted)
+            return;
         field.forceActiveFocus(Qt.ShortcutFocusReason);
-        root.edited(root.text + typed);
+        root.edited(root.text + event.text);
         field.cursorPosition = field.length;
     }
 

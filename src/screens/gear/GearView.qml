@@ -32,10 +32,8 @@ FocusScope {
     }
     // Typing anywhere goes on with the search.
     Keys.onPressed: event => {
-        const command = event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier);
-        event.accepted = !root.enlarged && !command && event.text.length > 0 && event.text.trim() !== "" && event.text >= " " && event.key !== Qt.Key_Delete;
-        if (event.accepted)
-            pane.typeOn(event.text);
+        if (!root.enlarged)
+            pane.typeOn(event);
     }
 
     GearPane {

@@ -20,10 +20,8 @@ FocusScope {
     }
     // Typing anywhere goes on with the filter, but for what is typed into the player's page.
     Keys.onPressed: event => {
-        const command = event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier);
-        event.accepted = !page.playerHasFocus && !command && event.text.length > 0 && event.text.trim() !== "" && event.text >= " " && event.key !== Qt.Key_Delete;
-        if (event.accepted)
-            pane.typeOn(event.text);
+        if (!page.playerHasFocus)
+            pane.typeOn(event);
     }
 
     VideoPane {

@@ -14,8 +14,8 @@ FocusScope {
     required property hvColors c
     required property GearList entries
 
-    function typeOn(typed: string): void {
-        search.typeOn(typed);
+    function typeOn(event: var): void {
+        search.typeOn(event);
     }
 
     QtObject {

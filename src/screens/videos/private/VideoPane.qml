@@ -10,8 +10,8 @@ FocusScope {
     required property hvColors c
     required property VideoList videos
 
-    function typeOn(typed: string): void {
-        filter.typeOn(typed);
+    function typeOn(event: var): void {
+        filter.typeOn(event);
     }
 
     QtObject {
