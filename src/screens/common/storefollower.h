@@ -16,6 +16,13 @@ void followStore(Owner *owner, void (Owner::*refresh)())
         QObject::connect(store, &UserStore::revisionChanged, owner, refresh);
 }
 
+/// Whether the user has a bookmark on something; there is none without a store.
+[[nodiscard]] inline bool hasBookmark(const QString &type, const QString &id)
+{
+    const UserStore *store = UserStore::shared();
+    return store && store->isBookmarked(type, id);
+}
+
 /// Finished lessons; none without a store.
 [[nodiscard]] inline QSet<QString> finishedLessons()
 {

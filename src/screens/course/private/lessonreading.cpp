@@ -88,8 +88,7 @@ bool LessonReading::finished() const
 
 bool LessonReading::bookmarked() const
 {
-    const UserStore *store = UserStore::shared();
-    return store && store->isBookmarked(ContentKind::lesson, m_lessonID);
+    return hasBookmark(ContentKind::lesson, m_lessonID);
 }
 
 void LessonReading::setFinished(bool finished)

@@ -70,8 +70,7 @@ QString GearReading::specsNote() const
 
 bool GearReading::isBookmarked() const
 {
-    const UserStore *store = UserStore::shared();
-    return store && store->isBookmarked(ContentKind::gear, m_entryID);
+    return hasBookmark(ContentKind::gear, m_entryID);
 }
 
 void GearReading::toggleBookmark()

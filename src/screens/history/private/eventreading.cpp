@@ -54,8 +54,7 @@ QString EventReading::body() const
 
 bool EventReading::isBookmarked() const
 {
-    const UserStore *store = UserStore::shared();
-    return store && m_event && store->isBookmarked(ContentKind::history, m_event->id);
+    return m_event && hasBookmark(ContentKind::history, m_event->id);
 }
 
 void EventReading::toggleBookmark()

@@ -49,8 +49,7 @@ QString VideoReading::moduleTitle() const
 
 bool VideoReading::isBookmarked() const
 {
-    const UserStore *store = UserStore::shared();
-    return store && store->isBookmarked(ContentKind::video, m_videoID);
+    return hasBookmark(ContentKind::video, m_videoID);
 }
 
 void VideoReading::openInYouTube()
