@@ -7,13 +7,13 @@
 #include "store/storetesting.h"
 #include "support/environment.h"
 #include "support/testcourse.h"
+#include "support/waituntil.h"
 
 #include <QScreen>
 #include <QTimer>
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <future>
 #include <memory>
 
@@ -21,18 +21,6 @@ using namespace Qt::StringLiterals;
 using namespace StoreTesting;
 
 namespace {
-
-// Waits, with the event loop running, until something holds.
-bool waitUntil(const std::function<bool()> &holds)
-{
-    constexpr int patience = 60000; // ms
-    QTimer alarm;                   // also wakes the loop below
-    alarm.setSingleShot(true);
-    alarm.start(patience);
-    while (!holds() && alarm.isActive())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    return holds();
-}
 
 // The application on an offscreen display, for a user who has nothing stored. All tests share one,
 // for QML doesn't survive the application object of its process.

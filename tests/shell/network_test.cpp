@@ -11,12 +11,12 @@
 #include "support/environment.h"
 #include "support/loopback.h"
 #include "support/testcourse.h"
+#include "support/waituntil.h"
 
 #include <QFile>
 #include <QProcess>
 #include <QQmlContext>
 #include <QQuickItem>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -30,20 +30,6 @@ using namespace Qt::StringLiterals;
 using namespace StoreTesting;
 
 namespace {
-
-constexpr int kPatience = 30000; // ms; whoever hasn't got there by then hangs
-
-bool waitUntil(const std::function<bool()> &holds)
-{
-    QTimer pulse; // not everything that is waited for is told by an event
-    pulse.start(10);
-    QTimer alarm;
-    alarm.setSingleShot(true);
-    alarm.start(kPatience);
-    while (!holds() && alarm.isActive())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    return holds();
-}
 
 // Leaves the machine's network for an empty one, for good.
 bool leaveNetwork()

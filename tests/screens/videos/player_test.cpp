@@ -11,6 +11,7 @@
 #include "shell/setup.h"
 #include "support/environment.h"
 #include "support/loopback.h"
+#include "support/waituntil.h"
 
 #include <QDirIterator>
 #include <QFile>
@@ -19,7 +20,6 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -34,21 +34,6 @@ using CourseTesting::Course;
 using CourseTesting::World;
 
 namespace {
-
-constexpr int kPatience = 30000; // ms; whoever hasn't got there by then hangs
-
-// Waits, with the event loop running, until something holds.
-bool waitUntil(const std::function<bool()> &holds)
-{
-    QTimer pulse; // not everything that is waited for is told by an event
-    pulse.start(10);
-    QTimer alarm;
-    alarm.setSingleShot(true);
-    alarm.start(kPatience);
-    while (!holds() && alarm.isActive())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    return holds();
-}
 
 QQuickItem *find(QQuickItem *root, const std::function<bool(const QQuickItem &)> &fits)
 {
@@ -337,7 +322,7 @@ TEST_F(Player, AnotherFilmBeforeTheLookIsNotTakenForTheFirst)
     server.answer(path(second), kWatched + QByteArray(kGood));
     show(first);
     ASSERT_TRUE(player());
-    player()->setProperty("probeDelay", kPatience);
+    player()->setProperty("probeDelay", 30000);
     ASSERT_TRUE(waitUntil([this] { return isLoaded(); }));
     model.setVideoID(second);
     ASSERT_TRUE(player());
