@@ -74,11 +74,6 @@ private:
                                   const DiskOperation &operation) { return answer(operation); } };
 };
 
-QString integrity(const QString &path)
-{
-    return SQLiteDB(path).query(u"PRAGMA integrity_check"_s).constFirst().str(u"integrity_check"_s);
-}
-
 void expectOneClearMessage(const HVError &error)
 {
     EXPECT_EQ(error.kind(), HVError::Kind::Database);

@@ -217,7 +217,7 @@ TEST(PowerCut, EveryOutcomeOpensAndHoldsWhatWasAcknowledged)
 
     bool isSet = false;
     const int asked = qEnvironmentVariableIntValue("HV_POWER_CUTS", &isSet);
-    const int cuts = isSet ? asked : kUsualCuts;
+    const int cuts = isSet ? std::max(asked, 2) : kUsualCuts; // the first moment and the last
 
     const Folder folder;
     const Folder scratch;
@@ -258,11 +258,7 @@ TEST(PowerCut, EveryOutcomeOpensAndHoldsWhatWasAcknowledged)
         ASSERT_EQ(error, std::nullopt) << "at operation " << moment << ", outcome " << int(outcome);
         ASSERT_TRUE(allowed.contains(found))
             << "at operation " << moment << ", outcome " << int(outcome);
-        ASSERT_EQ(SQLiteDB(path)
-                      .query(u"PRAGMA integrity_check"_s)
-                      .constFirst()
-                      .str(u"integrity_check"_s),
-            u"ok"_s);
+        ASSERT_EQ(integrity(path), u"ok"_s);
     }
     RecordProperty("outcomes", cuts);
     RecordProperty("operations", int(session.operations.size()));

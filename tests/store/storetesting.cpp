@@ -1,5 +1,7 @@
 #include "store/storetesting.h"
 
+#include "store/sqlitedb.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -59,6 +61,11 @@ QByteArray fileBytes(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         qFatal("%s: %s", qPrintable(path), qPrintable(file.errorString()));
     return file.readAll();
+}
+
+QString integrity(const QString &path)
+{
+    return SQLiteDB(path).query(u"PRAGMA integrity_check"_s).constFirst().str(u"integrity_check"_s);
 }
 
 Child::Child(const QStringList &arguments)

@@ -51,6 +51,9 @@ using Fingerprint = QMap<QString, QByteArray>;
 void writeFile(const QString &path, const QByteArray &bytes);
 [[nodiscard]] QByteArray fileBytes(const QString &path);
 
+/// What SQLite says of the soundness of a database: "ok", or what is wrong with it.
+[[nodiscard]] QString integrity(const QString &path);
+
 /// The HVError that a call throws, or nothing.
 template <typename Call>
 [[nodiscard]] std::optional<HVError> errorOf(Call &&call)
