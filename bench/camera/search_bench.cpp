@@ -27,13 +27,6 @@ namespace {
 
 HalvorinApp *g_app = nullptr;
 
-void rest(int milliseconds)
-{
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec();
-}
-
 // The model of the results on the display.
 QObject *shownResults(const QObject *root)
 {

@@ -38,13 +38,6 @@ namespace {
 
 HalvorinApp *g_app = nullptr;
 
-void rest(int milliseconds)
-{
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec();
-}
-
 template <typename Item>
 void collect(const QQuickItem *from, std::vector<Item *> &found)
 {

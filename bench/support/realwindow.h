@@ -33,12 +33,18 @@ private:
     const FullCourse m_course;
 };
 
+/// Lets the event loop run for so long.
+inline void rest(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
 /// Lets everything that is still under way come to rest: animations, delayed calls.
 inline void settle()
 {
-    QEventLoop loop;
-    QTimer::singleShot(350, &loop, &QEventLoop::quit);
-    loop.exec();
+    rest(350);
 }
 
 /// From `change` to the end of the window's next frame.
