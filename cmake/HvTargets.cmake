@@ -1,4 +1,4 @@
-# The six kinds of target in this project. A folder's CMakeLists.txt calls these and nothing else.
+# The kinds of target in this project. A folder's CMakeLists.txt calls these and nothing else.
 
 # hv_precompile(<target> <kind>)
 # Reads Qt's headers from what was parsed once for all targets of the kind: "plain" libraries,

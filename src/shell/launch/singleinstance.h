@@ -18,9 +18,10 @@ class SingleInstance : public QObject
 public:
     /// What a later launch has to say.
     struct Call {
-        QByteArray
-            activationToken; ///< The desktop's permission to come to the front; no line ends.
-        QByteArray request;  ///< What it wants to see (request.h): one word, or nothing.
+        /// The desktop's permission to come to the front, without line ends; may be empty.
+        QByteArray activationToken;
+        /// What it wants to see (request.h): one word, or nothing.
+        QByteArray request;
 
         friend bool operator==(const Call &, const Call &) = default;
     };
