@@ -34,6 +34,13 @@ ContentLibrary::ContentLibrary(const QString &folder)
     m_background.setMaxThreadCount(1);
 }
 
+ContentLibrary::~ContentLibrary()
+{
+    m_background.waitForDone();
+    // What the last search has left is taken down by whoever may search.
+    const std::scoped_lock lock(m_searching);
+}
+
 const ContentLibrary &ContentLibrary::shared()
 {
     if (!sharedLibrary)

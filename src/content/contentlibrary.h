@@ -40,7 +40,7 @@ public:
     /// Reads the course in a time that grows with its length alone. Never fails.
     explicit ContentLibrary(const QString &folder);
     Q_DISABLE_COPY_MOVE(ContentLibrary)
-    ~ContentLibrary() = default;
+    ~ContentLibrary();
 
     /// The course of this process, read from HVInfo::contentFolder() on first use, which may be in
     /// any thread as long as no other asks for it until then.

@@ -1,5 +1,7 @@
 #include "kit/preferences.h"
 
+#include "kit/ownersonly.h"
+
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -22,6 +24,13 @@ Preferences::~Preferences() = default;
 QVariant Preferences::value(const QString &key) const
 {
     return m_file ? m_file->value(key) : m_memory.value(key);
+}
+
+void Preferences::write()
+{
+    const OwnersOnly ownersOnly;
+    m_file->sync();
+    OwnersOnly::tighten(m_file->fileName()); // which keeps the rights of the one that it replaces
 }
 
 bool Preferences::contains(const QString &key) const
@@ -48,7 +57,7 @@ void Preferences::set(const QString &key, const QVariant &value)
         return;
     if (m_file) {
         m_file->setValue(key, value);
-        m_file->sync();
+        write();
     } else {
         m_memory.insert(key, value);
     }
@@ -61,7 +70,7 @@ void Preferences::remove(const QString &key)
         return;
     if (m_file) {
         m_file->remove(key);
-        m_file->sync();
+        write();
     } else {
         m_memory.remove(key);
     }

@@ -27,7 +27,8 @@ public:
     /// The stored number; 0 if there is none, or if what is stored is no number.
     [[nodiscard]] double number(const QString &key) const;
 
-    /// Stores a value. Setting what is there already writes and signals nothing.
+    /// Stores a value. Setting what is there already writes and signals nothing. The file is its
+    /// owner's alone once it has been written, unless a link leads to it.
     void set(const QString &key, const QVariant &value);
     void remove(const QString &key);
 
@@ -48,6 +49,7 @@ Q_SIGNALS:
     void changed(const QString &key);
 
 private:
+    void write();
     [[nodiscard]] QVariant value(const QString &key) const;
 
     std::unique_ptr<QSettings> m_file; ///< Absent once keepInMemory() has been called.

@@ -4,6 +4,7 @@
 #include "selfcheck/standardoutput.h"
 #include "shell/setup.h"
 
+#include <QFileInfo>
 #include <QTextStream>
 
 using namespace Qt::StringLiterals;
@@ -23,7 +24,8 @@ std::optional<int> handleSheet(
     const OffscreenApplication application;
     HVSetup::configure();
     const QImage sheet = paint();
-    if (!sheet.save(path, "PNG")) {
+    // Not through a link: the file behind it isn't the one that was named.
+    if (QFileInfo(path).isSymbolicLink() || !sheet.save(path, "PNG")) {
         QTextStream(stderr) << "could not write "_L1 << path << Qt::endl;
         return 1;
     }

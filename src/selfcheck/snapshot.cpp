@@ -20,6 +20,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QQmlEngine>
 
 #include <array>
@@ -60,6 +61,12 @@ public:
     /// Throws HVError if the file can't be opened or written.
     void fill()
     {
+        // The folder is everybody's, and the name is known: a link that somebody puts there must
+        // lead nowhere, nor may a file of theirs be taken for ours.
+        QFile sample(samplePath());
+        if (!sample.open(QFile::NewOnly | QFile::WriteOnly, QFile::ReadOwner | QFile::WriteOwner))
+            throw HVError(HVError::Kind::Database, sample.errorString());
+        sample.close();
         UserStore::setShared(std::make_unique<UserStore>(QUrl::fromLocalFile(samplePath())));
         UserStore &store = *UserStore::shared();
         for (const Lesson &lesson : ContentLibrary::shared().lessons().first(
@@ -132,7 +139,8 @@ private:
 bool save(const QImage &image, const QString &path)
 {
     constexpr int kQuality = 60;
-    return image.convertToFormat(QImage::Format_RGB32).save(path, "PNG", kQuality);
+    return !QFileInfo(path).isSymbolicLink() // somebody else's file may be behind it
+        && image.convertToFormat(QImage::Format_RGB32).save(path, "PNG", kQuality);
 }
 
 /// Writes pictures in threads of their own, since encoding one takes as long as drawing the next,

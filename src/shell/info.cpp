@@ -1,5 +1,7 @@
 #include "shell/info.h"
 
+#include "kit/ownersonly.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -62,7 +64,9 @@ QString dataFolderPath()
 QString dataFolder()
 {
     const QString folder = dataFolderPath();
-    // What the user writes is nobody else's business, whatever the umask says.
+    // What the user writes is nobody else's business, and who can write to a folder above it could
+    // put another in its place.
+    const OwnersOnly ownersOnly;
     if (QDir().mkpath(folder))
         QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     return folder;

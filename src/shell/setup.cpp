@@ -5,6 +5,7 @@
 #include "content/contentlibrary.h"
 #include "kit/about.h"
 #include "kit/kit.h"
+#include "kit/ownersonly.h"
 #include "shell/appmodel.h"
 #include "shell/help/helptopics.h"
 #include "shell/info.h"
@@ -28,6 +29,13 @@ void tellLater(const QString &message)
 {
     QTimer::singleShot(
         0, &AppModel::shared(), [message] { AppModel::shared().setMessage(message); });
+}
+
+// An older version, a backup or a copy by hand may have left a file that others can read.
+void keepToOwner(const QString &file)
+{
+    for (const auto companion : { ""_L1, "-wal"_L1, "-shm"_L1 })
+        OwnersOnly::tighten(file + companion);
 }
 
 QUrl stopgapURL()
@@ -69,6 +77,8 @@ void openStore()
     const QUrl url = HVInfo::databaseURL();
     try {
         UserStore::setShared(Store::openProgressFile(url));
+        if (qEnvironmentVariableIsEmpty("HV_DB_PATH"))
+            keepToOwner(url.toLocalFile());
         return;
     } catch (const HVError &error) {
         tellLater("Your progress file could not be opened ("_L1 + error.description()

@@ -15,7 +15,8 @@ void configure();
 /// own, if nothing asks for the course until it has returned.
 void prepareCourse();
 
-/// Opens the progress file as UserStore::shared(). Never fails.
+/// Opens the progress file as UserStore::shared(). Never fails. The rights of everybody else are
+/// taken from a file in the data folder; one that the environment names keeps what its user gave.
 ///
 /// A progress file that can't be opened stays as it is, byte for byte, and a new file
 /// "My Progress (opened <seconds since 1970>).sqlite" in the data folder takes its place for this

@@ -1,5 +1,7 @@
 #include "store/rehearsal.h"
 
+#include "kit/ownersonly.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -224,6 +226,7 @@ std::unique_ptr<UserStore> Store::openProgressFile(const QUrl &url)
     // SQLite follows a link and has the companions beside the file that it leads to.
     const QString path = info.exists() ? info.canonicalFilePath() : info.filePath();
     requireWritableFiles(path);
+    const OwnersOnly ownersOnly; // copies too
 
     // In this order: a process that is just creating the file writes to it before it has a "-wal".
     const bool hasWal = hasContent(path + kWal);

@@ -2,6 +2,8 @@
 
 #include "store/hverror.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QSaveFile>
 
 #ifdef Q_OS_UNIX
@@ -9,6 +11,8 @@
 #include <cstring>
 #include <unistd.h>
 #endif
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -40,6 +44,12 @@ bool writeAll(QSaveFile &file, QByteArrayView bytes)
 
 void Store::writeTextFile(const QString &path, const QString &text)
 {
+    const QFileInfo place(path);
+    if (place.isSymbolicLink())
+        throw HVError(HVError::Kind::Invalid,
+            u"\"%1\" is a link to %2. Choose that file itself, or another name."_s.arg(
+                place.fileName(), QDir::toNativeSeparators(place.symLinkTarget())));
+
     const QByteArray bytes = text.toUtf8();
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || !writeAll(file, bytes))

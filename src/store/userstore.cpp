@@ -1,6 +1,7 @@
 #include "store/userstore.h"
 
 #include "content/text.h"
+#include "kit/ownersonly.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
@@ -73,6 +74,7 @@ SQLiteDB openedForOwner(const QUrl &url)
         // would be gone at the end.
         throw HVError(HVError::Kind::Database, u"the address isn't that of a file"_s);
     }
+    const OwnersOnly ownersOnly;
     QDir().mkpath(QFileInfo(path).path()); // if it fails, so does the opening
     createForOwnerOnly(path);
 

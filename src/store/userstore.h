@@ -72,8 +72,8 @@ public:
     /// The longest note, in characters as a reader counts them.
     static constexpr qsizetype longestNote = 20000;
 
-    /// Opens the progress file, creating it and the folders above it where they are missing; a new
-    /// file is readable by its owner only. Throws HVError if the file can't be opened, which may
+    /// Opens the progress file, creating it and the folders above it where they are missing; what
+    /// is new is its owner's alone. Throws HVError if the file can't be opened, which may
     /// have changed it by then: Store::openProgressFile() is the way to open a file of unknown
     /// origin.
     explicit UserStore(const QUrl &url);

@@ -20,8 +20,10 @@ class ButtonBehavior : public ::testing::Test
 protected:
     void SetUp() override
     {
-        m_engine.addImportPath(u":/qt/qml"_s);
-        QQmlComponent component(&m_engine);
+        engine.addImportPath(u":/qt/qml"_s);
+        QObject::connect(&engine, &QQmlEngine::warnings,
+            [this](const QList<QQmlError> &told) { warnings += told.size(); });
+        QQmlComponent component(&engine);
         component.setData("import Halvorin.Kit\n"
                           "Pressable { property int clicks; onClicked: ++clicks; width: 20 }",
             QUrl());
@@ -38,10 +40,9 @@ protected:
     }
     [[nodiscard]] int clicks() const { return button->property("clicks").toInt(); }
 
+    QQmlEngine engine;
     std::unique_ptr<QQuickItem> button;
-
-private:
-    QQmlEngine m_engine;
+    qsizetype warnings = 0; ///< Of QML's.
 };
 
 } // namespace
@@ -76,4 +77,26 @@ TEST_F(ButtonBehavior, IsNotClickedByAKeyThatWasHeldBeforeItHadTheFocus)
         send(QEvent::KeyRelease, key);
     }
     EXPECT_EQ(clicks(), 0);
+}
+
+TEST_F(ButtonBehavior, GoesWithItsRingAndSaysNothing)
+{
+    // given: a button inside something that stays, and that shows its focus
+    QQmlComponent component(&engine);
+    component.setData("import QtQuick\n"
+                      "import Halvorin.Kit\n"
+                      "Item { property Item button: Pressable { } }",
+        QUrl());
+    const std::unique_ptr<QObject> around(component.create());
+    auto *inside = around->property("button").value<QQuickItem *>();
+    ASSERT_NE(inside, nullptr) << component.errorString().toStdString();
+    for (QObject *child : inside->children()) {
+        if (child->property("showsRing").isValid())
+            child->setProperty("showsRing", true);
+    }
+    ASSERT_FALSE(inside->childItems().isEmpty());
+    // when
+    delete inside;
+    // then
+    EXPECT_EQ(warnings, 0);
 }

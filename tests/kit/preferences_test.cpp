@@ -147,6 +147,37 @@ TEST_F(PreferencesTest, RemovedAreGoneFromTheFileToo)
     EXPECT_FALSE(Preferences(path).contains(kTheme));
 }
 
+TEST_F(PreferencesTest, AreTheirOwnersAlone)
+{
+    Preferences(path).set(kTheme, u"crvn.sky"_s);
+    constexpr QFile::Permissions ownersOnly
+        = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    EXPECT_EQ(QFile::permissions(path), ownersOnly);
+    EXPECT_EQ(
+        QFile::permissions(QFileInfo(path).path()), ownersOnly | QFile::ExeOwner | QFile::ExeUser);
+}
+
+TEST_F(PreferencesTest, ThatOthersCouldReadBecomeTheirOwnersAlone)
+{
+    writeByHand("[General]\n");
+    ASSERT_TRUE(QFile::setPermissions(path, QFile::Permissions(0x6666)));
+    Preferences(path).set(kTheme, u"crvn.sky"_s);
+    EXPECT_EQ(QFile::permissions(path) & QFile::Permissions(0x0077), QFile::Permissions());
+}
+
+TEST_F(PreferencesTest, BehindALinkKeepTheirRightsAndTheLink)
+{
+    writeByHand("[General]\n");
+    const QString real = folder.filePath(u"dotfile"_s);
+    ASSERT_TRUE(QFile::rename(path, real));
+    ASSERT_TRUE(QFile::setPermissions(real, QFile::Permissions(0x6644)));
+    ASSERT_TRUE(QFile::link(real, path));
+    Preferences(path).set(kTheme, u"crvn.sky"_s);
+    EXPECT_TRUE(QFileInfo(path).isSymbolicLink());
+    EXPECT_EQ(QFile::permissions(real), QFile::Permissions(0x6644));
+    EXPECT_EQ(Preferences(real).text(kTheme), u"crvn.sky"_s);
+}
+
 TEST_F(PreferencesTest, SignalAChangeOnce)
 {
     Preferences preferences(path);

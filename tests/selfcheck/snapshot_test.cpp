@@ -425,6 +425,33 @@ TEST_F(Snapshot, APictureThatCanNotBeWrittenDoesNotKeepTheOthersFromBeing)
     EXPECT_EQ(fingerprint(pictures()).keys(), fileNames());
 }
 
+TEST_F(Snapshot, APictureIsNotWrittenThroughALink)
+{
+    // given
+    writeFile(home.path(u"precious"_s), "notes");
+    ASSERT_TRUE(QDir().mkpath(pictures()));
+    const QString name = fileNames().constFirst();
+    ASSERT_TRUE(QFile::link(home.path(u"precious"_s), pictures() + u'/' + name));
+    // when
+    const Shooting run = take();
+    // then
+    EXPECT_EQ(run.status, 1);
+    EXPECT_TRUE(run.lines.contains("could not render "_L1 + QFileInfo(name).completeBaseName()));
+    EXPECT_EQ(fileBytes(home.path(u"precious"_s)), QByteArray("notes"));
+}
+
+TEST_F(Snapshot, ALinkInThePlaceOfTheSampleLeadsNowhere)
+{
+    writeFile(home.path(u"precious"_s), "notes");
+    for (const QString &suffix : { u""_s, u"-wal"_s, u"-shm"_s }) {
+        ASSERT_TRUE(QFile::link(home.path(u"precious"_s),
+            home.temporaryFolder() + u"/snapshot-sample.sqlite"_s + suffix));
+    }
+    EXPECT_EQ(take().status, 0);
+    EXPECT_EQ(fileBytes(home.path(u"precious"_s)), QByteArray("notes"));
+    expectNoTraceOfTheSample();
+}
+
 TEST_F(Snapshot, ReplacesTheSampleThatAnEarlierRunHasLeft)
 {
     for (const QString &suffix : { u""_s, u"-wal"_s, u"-shm"_s }) {

@@ -6,11 +6,15 @@
 #include "support/program.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <string>
+
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 using namespace StoreTesting;
@@ -41,6 +45,39 @@ class LaunchEndedBySignal : public Launch, public ::testing::WithParamInterface<
 };
 
 } // namespace
+
+// The umask that the program is started with.
+class LaunchUnderUmask : public Launch, public ::testing::WithParamInterface<int>
+{
+protected:
+    // Runs the program until it has a window, looks at all that it has made, and ends it.
+    void runAndLook()
+    {
+        Program program(home, {}, [mask = GetParam()] { ::umask(mode_t(mask)); });
+        ASSERT_TRUE(program.waitUntilItAnswers()) << qPrintable(program.complaints());
+        expectEverythingForTheOwnerOnly();
+        program.send(SIGTERM);
+        EXPECT_EQ(program.status(), 0);
+        expectEverythingForTheOwnerOnly();
+        EXPECT_TRUE(QFileInfo(home.progressFile()).isFile());
+    }
+
+    void expectEverythingForTheOwnerOnly() const
+    {
+        constexpr auto everything
+            = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+        for (const QString &place : { u"data"_s, u"config"_s, u"run"_s, u"tmp"_s }) {
+            QDirIterator entries(home.path(place), everything, QDirIterator::Subdirectories);
+            while (entries.hasNext()) {
+                const QString entry = entries.next();
+                EXPECT_EQ(QFile::permissions(entry) & kOthers, QFile::Permissions())
+                    << qPrintable(entry);
+            }
+        }
+    }
+
+    static constexpr QFile::Permissions kOthers = QFile::Permissions(0x0077);
+};
 
 // Answers on standard output
 
@@ -321,4 +358,50 @@ TEST_F(Launch, LeavesADamagedProgressFileAsItIs)
     expectToRunAndEnd(program);
     EXPECT_EQ(fingerprint(home.dataFolder()).value(u"My Progress.sqlite"_s), before);
     EXPECT_EQ(QDir(home.dataFolder()).entryList(QDir::Files).size(), 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Umasks, LaunchUnderUmask, ::testing::Values(0000, 0022, 0077), [](const auto &info) {
+        return "Umask" + std::to_string(info.param / 8) + std::to_string(info.param % 8);
+    });
+
+TEST_P(LaunchUnderUmask, MakesEverythingForItsUserAlone)
+{
+    QDir(home.path(u"data"_s)).removeRecursively();
+    QDir(home.path(u"config"_s)).removeRecursively();
+    runAndLook();
+    for (const QString &folder : { u"data"_s, u"config"_s })
+        EXPECT_EQ(QFile::permissions(home.path(folder)) & kOthers, QFile::Permissions());
+    EXPECT_TRUE(QFileInfo(home.preferencesFile()).isFile());
+}
+
+TEST_P(LaunchUnderUmask, TakesTheRightsOfOthersFromWhatIsItsUsers)
+{
+    // given: what an earlier run has made, open to everybody
+    runAndLook();
+    ASSERT_TRUE(QFile::setPermissions(home.dataFolder(), QFile::Permissions(0x7777)));
+    for (const QString &file : { home.progressFile(), home.preferencesFile() })
+        ASSERT_TRUE(QFile::setPermissions(file, QFile::Permissions(0x6666))) << qPrintable(file);
+    // given: a file that isn't the program's
+    const QString foreign = home.path(u"data/foreign.txt"_s);
+    writeFile(foreign, "foreign");
+    ASSERT_TRUE(QFile::setPermissions(foreign, QFile::Permissions(0x6644)));
+    // then
+    Program program(home, {}, [mask = GetParam()] { ::umask(mode_t(mask)); });
+    ASSERT_TRUE(program.waitUntilItAnswers());
+    EXPECT_EQ(QFile::permissions(home.dataFolder()) & kOthers, QFile::Permissions());
+    for (const QString &suffix : { u""_s, u"-wal"_s, u"-shm"_s })
+        EXPECT_EQ(QFile::permissions(home.progressFile() + suffix) & kOthers, QFile::Permissions());
+    EXPECT_EQ(QFile::permissions(foreign), QFile::Permissions(0x6644));
+}
+
+TEST_F(Launch, LeavesTheRightsOfAProgressFileThatItsUserNames)
+{
+    const QString path = home.path(u"shared.sqlite"_s);
+    static_cast<void>(UserStore(QUrl::fromLocalFile(path)));
+    ASSERT_TRUE(QFile::setPermissions(path, QFile::Permissions(0x6660)));
+    home.environment.insert(u"HV_DB_PATH"_s, path);
+    Program program(home);
+    expectToRunAndEnd(program);
+    EXPECT_EQ(QFile::permissions(path), QFile::Permissions(0x6660));
 }

@@ -20,12 +20,15 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
+#include <QFuture>
 #include <QRegularExpression>
+#include <QThread>
 #include <QTimer>
 
 #include <gtest/gtest.h>
 
 #include <future>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 using namespace StoreTesting;
@@ -241,6 +244,24 @@ TEST_F(HVSetupOpenStore, UsesTheCourseThatAnotherThreadHasPrepared)
     launch();
     EXPECT_FALSE(ContentLibrary::shared().lessons().isEmpty());
     EXPECT_EQ(messages, QStringList());
+}
+
+TEST_F(HVSetupOpenStore, SearchesFindTheCourseWhileItIsBeingIndexed)
+{
+    // given: the start as the program makes it
+    const std::future<void> course = std::async(std::launch::async, HVSetup::prepareCourse);
+    HVSetup::openStore();
+    course.wait();
+    const std::unique_ptr<QThread> indexing = HVSetup::indexCourse();
+    // when
+    QFuture<QList<ContentLibrary::Hit>> later
+        = ContentLibrary::shared().searchInBackground(u"tripod"_s);
+    const QList<ContentLibrary::Hit> hits = ContentLibrary::shared().search(u"tripod"_s);
+    // then
+    EXPECT_FALSE(hits.isEmpty());
+    EXPECT_EQ(later.result().size(), hits.size());
+    indexing->wait();
+    letEventLoopRun(); // which hears of the thread's end
 }
 
 TEST_F(HVSetupOpenStore, MakesAProgressFileAtTheFirstLaunchAndSaysNothing)

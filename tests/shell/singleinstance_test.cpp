@@ -21,6 +21,9 @@
 #include <future>
 #include <memory>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 using namespace StoreTesting;
 
@@ -295,6 +298,126 @@ TEST_F(SingleInstanceTest, TheLockOfAKilledProcessIsNoHindranceWhereItCanNotBeTa
     // then
     EXPECT_TRUE(isFirst);
     QFile::setPermissions(folder.path(), QFile::Permissions(0x7700)); // to be cleared away
+}
+
+// Who else may have put something there
+
+TEST_F(SingleInstanceTest, AFolderThatOthersCanWriteToHasNeitherLockNorSocket)
+{
+    for (const auto rights : { QFile::Permissions(0x7777), QFile::Permissions(0x7770) }) {
+        ASSERT_TRUE(QFile::setPermissions(folder.path(), rights));
+        const SingleInstance one(folder.path());
+        const SingleInstance other(folder.path());
+        EXPECT_TRUE(one.isFirst());
+        EXPECT_TRUE(other.isFirst());
+        EXPECT_EQ(fingerprint(folder.path()), Fingerprint());
+    }
+}
+
+TEST_F(SingleInstanceTest, AFolderOfAnotherUserHasNeitherLockNorSocket)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "Only root can give a folder away.";
+    ASSERT_EQ(::chown(qPrintable(folder.path()), 65534, 65534), 0);
+    EXPECT_TRUE(SingleInstance(folder.path()).isFirst());
+    EXPECT_EQ(fingerprint(folder.path()), Fingerprint());
+}
+
+TEST_F(SingleInstanceTest, LinksInThePlacesOfLockAndSocketAreReplacedAndLeadNowhere)
+{
+    // given
+    const Folder elsewhere;
+    writeFile(elsewhere.path(u"precious"_s), "notes");
+    const Fingerprint before = fingerprint(elsewhere.path());
+    for (const QString &target : { u"precious"_s, u"nothing yet"_s }) {
+        ASSERT_TRUE(QFile::link(elsewhere.path(target), lockFile()));
+        ASSERT_TRUE(QFile::link(elsewhere.path(target), socketFile()));
+        // when
+        const SingleInstance first(folder.path());
+        Calls calls(first);
+        const std::future<void> caller = call("token");
+        // then
+        EXPECT_TRUE(first.isFirst());
+        EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ "token" }));
+        EXPECT_FALSE(QFileInfo(lockFile()).isSymbolicLink());
+        EXPECT_FALSE(QFileInfo(socketFile()).isSymbolicLink());
+        EXPECT_EQ(fingerprint(elsewhere.path()), before);
+    }
+}
+
+TEST_F(SingleInstanceTest, APipeInThePlaceOfTheLockKeepsNobodyWaiting)
+{
+    ASSERT_EQ(::mkfifo(qPrintable(lockFile()), 0600), 0);
+    Other other({ u"hold"_s, folder.path() });
+    EXPECT_EQ(other.rank(), u"first"_s);
+}
+
+TEST_F(SingleInstanceTest, AFolderInThePlaceOfTheLockKeepsNobodyOut)
+{
+    ASSERT_TRUE(QDir().mkpath(lockFile()));
+    EXPECT_TRUE(SingleInstance(folder.path()).isFirst());
+}
+
+TEST_F(SingleInstanceTest, TheLockOfAnotherUsersProcessKeepsNobodyOut)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "Only root can make a file in another's name.";
+    // given: one that names a process that is alive
+    QLockFile lock(lockFile());
+    ASSERT_TRUE(lock.tryLock());
+    ASSERT_EQ(::chown(qPrintable(lockFile()), 65534, 65534), 0);
+    // then
+    EXPECT_TRUE(SingleInstance(folder.path()).isFirst());
+}
+
+TEST_F(SingleInstanceTest, ASocketOfAnotherUserIsNotCalled)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "Only root can listen in another's name.";
+    // given: a first of ours, and a stranger who listens in its place
+    QLockFile lock(lockFile());
+    ASSERT_TRUE(lock.tryLock());
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), QFile::Permissions(0x7777)));
+    QLocalServer stranger;
+    {
+        const OrdinaryUser user;
+        ASSERT_TRUE(stranger.listen(socketFile()));
+    }
+    ASSERT_EQ(::chown(qPrintable(socketFile()), 0, 0), 0);
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), QFile::Permissions(0x7700)));
+    // when
+    SingleInstance later(folder.path());
+    ASSERT_FALSE(later.isFirst());
+    later.callFirst({ .activationToken = "token", .request = "continue" });
+    // then
+    EXPECT_TRUE(later.isFirst());
+    ASSERT_TRUE(stranger.waitForNewConnection(kPatience));
+    QLocalSocket *caller = stranger.nextPendingConnection();
+    caller->waitForDisconnected(kPatience);
+    EXPECT_EQ(caller->readAll(), QByteArray());
+}
+
+TEST_F(SingleInstanceTest, AnotherUserCanNotCallTheFirst)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "Only root can call in another's name.";
+    // given: a socket that lets everybody in
+    const SingleInstance first(folder.path());
+    Calls calls(first);
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), QFile::Permissions(0x7755)));
+    ASSERT_EQ(::chmod(qPrintable(socketFile()), 0777), 0);
+    QLocalSocket stranger;
+    {
+        const OrdinaryUser user;
+        stranger.connectToServer(socketFile());
+        ASSERT_TRUE(stranger.waitForConnected(kPatience));
+    }
+    stranger.write("continue token\n");
+    // when: a call of ours behind it
+    const std::future<void> caller = call("ours");
+    // then
+    EXPECT_EQ(calls.waitFor(1), (QByteArrayList{ "ours" }));
+    EXPECT_EQ(stranger.readAll(), QByteArray());
 }
 
 // Calling the first

@@ -6,9 +6,9 @@
 //
 //     child write <file> <name> <n>   writes n times to the progress file
 //     child answer <file> <name>      writes once for each line of its input
-//         Prints a line after each write that came back: the kind of record and its key, which is
-//         made of the name and the number of the write. A write that finds the file busy is tried
-//         again, as a person would.
+//     child launch-and-answer …       the same, after it has opened the file as the launch does
+//         Prints the number of each write that came back, from 0; childwrites.h says what it wrote.
+//         What finds the file busy is tried again, as a person would.
 //
 //     child lock <file>               holds the file, as another program may
 //         Begins to write, prints "locked", and lets go when its input ends.
@@ -16,9 +16,10 @@
 #include "store/rehearsal.h"
 #include "store/userstore.h"
 
-#include "store/childnote.h"
+#include "store/childwrites.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QStringList>
 
 #include <sqlite3.h>
@@ -42,13 +43,17 @@ void waitForRelease()
     while (std::getchar() != EOF) { }
 }
 
+std::unique_ptr<UserStore> opened(const QUrl &file, bool asLaunch)
+{
+    return asLaunch ? Store::openProgressFile(file) : std::make_unique<UserStore>(file);
+}
+
 int open(const QUrl &file, bool asLaunch)
 {
     say(u"ready"_s);
     waitForRelease();
     try {
-        const auto store
-            = asLaunch ? Store::openProgressFile(file) : std::make_unique<UserStore>(file);
+        const auto store = opened(file, asLaunch);
         say(u"opened"_s);
         return 0;
     } catch (const HVError &error) {
@@ -67,46 +72,83 @@ int lock(const QUrl &file)
     return 0;
 }
 
-/// Makes the write with this number and returns what to print about it.
-QString write(UserStore &store, const QString &name, int number)
+/// Tries again what finds the file busy, as a person would. Another child that writes without a
+/// pause may keep it for longer than the store waits.
+template <typename Call>
+auto patiently(const Call &call)
 {
-    const QString key = name + u'.' + QString::number(number);
-    switch (number % 4) {
-    case 0: {
-        Note note;
-        note.targetType = u"lesson"_s;
-        note.targetID = key;
-        note.body = childNote(key);
-        store.save(note);
-        return u"note "_s + key;
-    }
-    case 1:
-        store.setComplete(key, true);
-        return u"lesson "_s + key;
-    case 2:
-        store.setBookmark(u"gear"_s, key, true);
-        return u"bookmark "_s + key;
-    default:
-        store.saveQuiz(key, 4, 5, QDateTime::currentDateTimeUtc());
-        return u"quiz "_s + key;
+    for (;;) {
+        try {
+            return call();
+        } catch (const HVError &error) {
+            if (error.sqliteCode() != SQLITE_BUSY)
+                throw;
+        }
     }
 }
 
-/// Writes as often as `isWanted`, asked before each write, says so.
-int writeWhile(const QUrl &file, const QString &name, const std::function<bool(int)> &isWanted)
+/// Writes under a name, one write after the other.
+class Writer
 {
-    UserStore store(file);
-    for (int number = 0; isWanted(number); ++number) {
-        QString done;
-        while (done.isEmpty()) {
-            try {
-                done = write(store, name, number);
-            } catch (const HVError &error) {
-                if (error.sqliteCode() != SQLITE_BUSY)
-                    throw;
-            }
+public:
+    Writer(UserStore &store, const QString &name)
+        : m_store(store)
+        , m_name(name)
+    { }
+
+    /// Makes the write with this number.
+    void make(int number)
+    {
+        patiently([&] { tryToMake(number); });
+    }
+
+private:
+    void tryToMake(int number)
+    {
+        const ChildWrite write = childWrite(number);
+        const QString key = childKey(m_name, write.subject);
+        switch (write.kind) {
+        case ChildWrite::NewNote: {
+            Note note;
+            note.targetType = u"lesson"_s;
+            note.targetID = key;
+            note.body = childNote(key);
+            m_store.save(note);
+            m_notes.insert(write.subject, note);
+            break;
         }
-        say(done);
+        case ChildWrite::FinishLesson:
+            return m_store.setComplete(key, true);
+        case ChildWrite::SetBookmark:
+            return m_store.setBookmark(u"gear"_s, key, true);
+        case ChildWrite::SaveQuiz:
+            return m_store.saveQuiz(key, 4, 5, QDateTime::currentDateTimeUtc());
+        case ChildWrite::ChangeNote: {
+            Note note = m_notes.value(write.subject);
+            note.body = changedChildNote(key);
+            return m_store.save(note);
+        }
+        case ChildWrite::TakeBackLesson:
+            return m_store.setComplete(key, false);
+        case ChildWrite::RemoveBookmark:
+            return m_store.setBookmark(u"gear"_s, key, false);
+        case ChildWrite::DeleteNote:
+            return m_store.deleteNote(m_notes.take(write.subject).id);
+        }
+    }
+
+    UserStore &m_store;
+    QString m_name;
+    QHash<int, Note> m_notes; ///< By the number of the write that made them.
+};
+
+/// Writes as often as `isWanted`, asked before each write, says so.
+int writeWhile(UserStore &store, const QString &name, const std::function<bool(int)> &isWanted)
+{
+    Writer writer(store, name);
+    for (int number = 0; isWanted(number); ++number) {
+        writer.make(number);
+        say(QString::number(number));
     }
     return 0;
 }
@@ -119,10 +161,13 @@ int main(int argc, char **argv)
     const QStringList arguments = QCoreApplication::arguments();
     const QString command = arguments.value(1);
     const QUrl file = QUrl::fromLocalFile(arguments.value(2));
-    if (command == "answer"_L1)
-        return writeWhile(file, arguments.value(3), [](int) { return std::getchar() != EOF; });
+    if (command == "answer"_L1 || command == "launch-and-answer"_L1) {
+        const auto store = patiently([&] { return opened(file, command != "answer"_L1); });
+        return writeWhile(*store, arguments.value(3), [](int) { return std::getchar() != EOF; });
+    }
     if (command == "write"_L1) {
-        return writeWhile(file, arguments.value(3),
+        const auto store = patiently([&] { return opened(file, false); });
+        return writeWhile(*store, arguments.value(3),
             [count = arguments.value(4).toInt()](int number) { return number < count; });
     }
     if (command == "lock"_L1)

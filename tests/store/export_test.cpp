@@ -266,6 +266,34 @@ TEST(TextFile, SaysWhyItCanNotBeWritten)
     EXPECT_TRUE(errorOf([&] { Store::writeTextFile(folder.path(), u"over a folder"_s); }));
 }
 
+TEST(TextFile, IsNotWrittenThroughALink)
+{
+    const Folder folder;
+    const Folder elsewhere;
+    writeFile(elsewhere.path(u"precious.txt"_s), "precious");
+    ASSERT_TRUE(QFile::link(elsewhere.path(u"precious.txt"_s), folder.path(u"notes.txt"_s)));
+    ASSERT_TRUE(QFile::link(elsewhere.path(u"nothing yet"_s), folder.path(u"dangling.txt"_s)));
+    const Fingerprint before = fingerprint(folder.path());
+    const Fingerprint behind = fingerprint(elsewhere.path());
+
+    EXPECT_EQ(errorOf([&] { Store::writeTextFile(folder.path(u"notes.txt"_s), u"text"_s); }),
+        HVError(HVError::Kind::Invalid,
+            u"\"notes.txt\" is a link to %1. Choose that file itself, or another name."_s.arg(
+                elsewhere.path(u"precious.txt"_s))));
+    EXPECT_TRUE(errorOf([&] { Store::writeTextFile(folder.path(u"dangling.txt"_s), u"text"_s); }));
+    EXPECT_EQ(fingerprint(folder.path()), before);
+    EXPECT_EQ(fingerprint(elsewhere.path()), behind);
+}
+
+TEST(TextFile, IsWrittenIntoAFolderThatALinkLeadsTo)
+{
+    const Folder folder;
+    const Folder elsewhere;
+    ASSERT_TRUE(QFile::link(elsewhere.path(), folder.path(u"Documents"_s)));
+    Store::writeTextFile(folder.path(u"Documents/notes.txt"_s), u"text"_s);
+    EXPECT_EQ(fileBytes(elsewhere.path(u"notes.txt"_s)), QByteArray("text"));
+}
+
 TEST(TextFile, IsRefusedWhereTheUserMayNotWrite)
 {
     const Folder folder;

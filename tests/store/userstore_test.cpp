@@ -128,6 +128,16 @@ TEST(UserStore, MakesANewFileBehindALinkForTheOwnerOnly)
     EXPECT_EQ(QFile::permissions(folder.path(u"Real.sqlite"_s)), kOwnerOnly);
 }
 
+TEST(UserStore, MakesNewFoldersForTheOwnerOnly)
+{
+    const Folder folder;
+    const UserStore store(folder.url(u"some/where/Progress.sqlite"_s));
+    for (const QString &name : { u"some"_s, u"some/where"_s })
+        EXPECT_EQ(
+            QFile::permissions(folder.path(name)), kOwnerOnly | QFile::ExeOwner | QFile::ExeUser)
+            << qPrintable(name);
+}
+
 TEST(UserStore, LeavesTheRightsOfAFileThatExists)
 {
     const Folder folder;

@@ -31,6 +31,11 @@ void ButtonBehavior::componentComplete()
     if (QQuickItem *item = button()) {
         item->setCursor(Qt::PointingHandCursor);
         item->installEventFilter(this);
+        // Sooner than QML hears of it: a ring without a button would ask nothing for its color.
+        connect(item, &QObject::destroyed, this, [this] {
+            m_ring.reset();
+            m_tip.reset();
+        });
     }
 }
 
