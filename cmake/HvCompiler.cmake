@@ -35,7 +35,8 @@ if(HV_SANITIZE)
     add_link_options(-fsanitize=${HV_SANITIZE})
     # Instrumented code hides from the compiler that an optional is checked before it is read; that
     # nothing unset is read is the sanitizers' own business.
-    target_compile_options(hv_warnings INTERFACE -Wno-maybe-uninitialized)
+    target_compile_options(hv_warnings INTERFACE
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     # The longest comparisons of the tests then take a sample.
     add_compile_definitions(HV_SANITIZED)
 endif()

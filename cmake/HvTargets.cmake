@@ -126,6 +126,34 @@ function(hv_add_qml_test folder)
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software")
 endfunction()
 
+# hv_add_fuzz(<name> SOURCES … LINK …)
+# A fuzz target, see tests/support/fuzz.h. As a rule it is the test fuzz_inputs_<name> of what is kept
+# in tests/fuzz-inputs/<name>; with HV_FUZZ it is the program build-fuzz/fuzz/<name>, built by the
+# target "fuzzers", which finds more of that.
+function(hv_add_fuzz name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
+    set(target fuzz_${name})
+    set(support "${PROJECT_SOURCE_DIR}/tests/support")
+    if(HV_FUZZ)
+        add_executable(${target} EXCLUDE_FROM_ALL ${arg_SOURCES} "${support}/fuzzengine.cpp")
+        add_dependencies(fuzzers ${target})
+        set_target_properties(${target} PROPERTIES
+            OUTPUT_NAME ${name}
+            RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/fuzz")
+        target_link_options(${target} PRIVATE -fsanitize=fuzzer)
+    else()
+        add_executable(${target} ${arg_SOURCES} "${support}/fuzzkept_test.cpp")
+        target_compile_definitions(${target} PRIVATE
+            HV_FUZZ_INPUTS="${PROJECT_SOURCE_DIR}/tests/fuzz-inputs/${name}")
+        target_link_libraries(${target} PRIVATE hv_test_main_core GTest::gtest)
+        hv_precompile(${target} test)
+        add_test(NAME fuzz_inputs_${name} COMMAND ${target})
+        set_tests_properties(fuzz_inputs_${name} PROPERTIES TIMEOUT 300 LABELS fuzz)
+    endif()
+    target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+    target_link_libraries(${target} PRIVATE hv_warnings hv_fuzz ${arg_LINK})
+endfunction()
+
 # hv_add_bench(<name> SOURCES … LINK …)
 # A Google Benchmark program, build/bench/<name>; built by the target "benchmarks" and never run by
 # ctest.

@@ -19,6 +19,9 @@ namespace {
 
 constexpr qsizetype kVideoColumns = 8;
 
+// A course is some hundred kilobytes. What is larger than this might be larger than the memory.
+constexpr qint64 kLargestFile = 64 * 1024 * 1024; // bytes
+
 struct FileText {
     QString text;
     QString problem; // As loadErrors tells it; empty if the file could be read.
@@ -28,8 +31,12 @@ FileText readFile(const QString &path)
 {
     // Not QFileInfo, to which a file in a folder that may not be entered isn't there.
     std::error_code error;
-    const std::filesystem::file_status status
-        = std::filesystem::status(QFileInfo(path).filesystemFilePath(), error);
+    std::filesystem::file_status status;
+    try {
+        status = std::filesystem::status(QFileInfo(path).filesystemFilePath(), error);
+    } catch (const std::system_error &) {
+        return { .problem = u"the file can't be found"_s }; // by a name with half a character in it
+    }
     if (error == std::errc::permission_denied)
         return { .problem = u"its folder may not be entered"_s };
     if (!std::filesystem::exists(status))
@@ -43,6 +50,8 @@ FileText readFile(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return { .problem = u"the file can't be read"_s };
+    if (file.size() > kLargestFile)
+        return { .problem = u"the file is too large"_s };
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return { .problem = u"the file can't be read"_s };

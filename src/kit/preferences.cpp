@@ -1,11 +1,26 @@
 #include "kit/preferences.h"
 
 #include "kit/ownersonly.h"
+#include "kit/textsettings.h"
 
+#include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 kLargestFile = 1024 * 1024; // bytes, thousands of times what is stored
+
+// A pipe would keep its reader waiting for ever, and a file of any size would be read to its end.
+bool isReadable(const QString &path)
+{
+    const QFileInfo info(path);
+    return !info.exists() || (info.isFile() && info.size() <= kLargestFile);
+}
+
+} // namespace
 
 Preferences &Preferences::shared()
 {
@@ -16,8 +31,10 @@ Preferences &Preferences::shared()
 }
 
 Preferences::Preferences(const QString &path)
-    : m_file(std::make_unique<QSettings>(path, QSettings::IniFormat))
-{ }
+{
+    if (isReadable(path))
+        m_file = std::make_unique<QSettings>(path, TextSettings::format());
+}
 
 Preferences::~Preferences() = default;
 
@@ -40,10 +57,7 @@ bool Preferences::contains(const QString &key) const
 
 QString Preferences::text(const QString &key) const
 {
-    const QVariant stored = value(key);
-    // An unquoted comma in a hand-edited file reads as a list; no value of ours is one.
-    return stored.typeId() == QMetaType::QStringList ? stored.toStringList().join(u',')
-                                                     : stored.toString();
+    return value(key).toString();
 }
 
 double Preferences::number(const QString &key) const

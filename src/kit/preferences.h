@@ -17,7 +17,8 @@ class Preferences : public QObject
 public:
     [[nodiscard]] static Preferences &shared();
 
-    /// Preferences kept in the file at `path`.
+    /// Preferences kept in the file at `path`; in memory if what stands there is no file, or one of
+    /// more than a megabyte.
     explicit Preferences(const QString &path);
     ~Preferences() override;
 

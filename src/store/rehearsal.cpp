@@ -53,6 +53,9 @@ void requireWritableFiles(const QString &path)
 {
     for (const QString &suffix : { kFile, kWal, kJournal, kIndex }) {
         const QFileInfo info(path + suffix);
+        // SQLite would write its changes over whatever file such a link leads to. It makes none.
+        if (info.isSymLink() && suffix != kFile)
+            throw refusal(info.fileName() + u" is a link"_s);
         if (!info.exists())
             continue;
         if (!info.isFile()) // asked first, for the opening of a pipe would wait for its other end
@@ -114,6 +117,58 @@ void copyFile(const QString &from, const QString &to)
     }
 }
 
+// Whether a table of ours is more than a table, or less: a view, a virtual table, one that computes
+// something when it is read or written to, one whose rows go with those of another. None of that is
+// our doing, and a computation in a file can be made to take years.
+bool isOfAnotherKind(const SQLiteDB &db)
+{
+    return db
+        .query(uR"(
+            SELECT COUNT(*) AS strange FROM pragma_table_list AS t
+            WHERE t.schema = 'main'
+                AND lower(t.name) IN ('meta', 'progress', 'quiz_results', 'notes', 'bookmarks')
+                AND (t.type <> 'table'
+                    OR EXISTS (SELECT 1 FROM pragma_table_xinfo(t.name)
+                               WHERE hidden <> 0 OR instr(dflt_value, '(') > 0)
+                    OR EXISTS (SELECT 1 FROM pragma_foreign_key_list(t.name))
+                    OR EXISTS (SELECT 1 FROM pragma_index_list(t.name) AS i
+                               WHERE i.partial
+                                   OR EXISTS (SELECT 1 FROM pragma_index_xinfo(i.name)
+                                              WHERE cid = -2)))
+        )"_s)
+        .first()
+        .boolean(u"strange"_s);
+}
+
+// Whether reading a table comes to no end, since its tree of pages has been made to lead back to
+// itself. Other damage is no reason to keep users from the rest of their file.
+bool isEndless(const SQLiteDB &db)
+{
+    for (const QString &sql : { u"SELECT COUNT(lesson_id), SUM(completed) FROM progress"_s,
+             u"SELECT COUNT(lesson_id) FROM progress"_s, u"SELECT SUM(taken) FROM quiz_results"_s,
+             u"SELECT SUM(updated) FROM notes"_s, u"SELECT SUM(created) FROM bookmarks"_s }) {
+        try {
+            static_cast<void>(db.query(sql));
+        } catch (const HVError &error) {
+            if (error.sqliteCode() == SQLITE_INTERRUPT)
+                return true;
+        }
+    }
+    return false;
+}
+
+const QString kForeign = u"the file belongs to another program"_s;
+const QString kEndless = u"a table of the file has no end"_s;
+
+// SQLite can be made to do anything by the wrong tables, and to read for ever by the right ones.
+void requireOrdinaryTables(const SQLiteDB &db)
+{
+    if (isOfAnotherKind(db))
+        throw refusal(kForeign);
+    if (isEndless(db))
+        throw refusal(kEndless);
+}
+
 void rehearseIn(const QString &place, const QString &path)
 {
     const QTemporaryDir scratch(place + u"/halvorin-rehearsal-XXXXXX"_s); // its owner's alone
@@ -125,7 +180,11 @@ void rehearseIn(const QString &place, const QString &path)
         if (QFileInfo::exists(path + suffix))
             copyFile(path + suffix, copy + suffix);
     }
-    const UserStore store(QUrl::fromLocalFile(copy));
+    requireOrdinaryTables(SQLiteDB(copy));
+    static_cast<void>(UserStore(QUrl::fromLocalFile(copy)));
+    // A journal tells how large the file was, and SQLite makes it so: terabytes of nothing.
+    if (QFileInfo(copy).size() > kLargestCopy)
+        throw refusal(u"the changes beside the file are not its own"_s);
 }
 
 // What a look at the file can tell where no copy can be made: whether it has a table that the
@@ -134,7 +193,7 @@ void rehearseIn(const QString &place, const QString &path)
 // keep users from their own file.
 void lookAtTables(const QString &path)
 {
-    bool clashes = false;
+    std::optional<HVError> objection;
     try {
         const SQLiteDB file(path, SQLiteDB::Access::Immutable);
         const QList<SQLRow> answer = file.query(uR"(
@@ -143,14 +202,17 @@ void lookAtTables(const QString &path)
                         WHERE name IN ('target_type', 'target_id')) < 2
                    OR (SELECT COUNT(*) FROM pragma_table_info('meta')) NOT IN (0, 2) AS clashes
         )"_s);
-        clashes = answer.first().boolean(u"clashes"_s);
+        if (answer.first().boolean(u"clashes"_s) || isOfAnotherKind(file))
+            objection = refusal(kForeign);
+        else if (isEndless(file))
+            objection = refusal(kEndless);
     } catch (const HVError &) {
         // Either the file is whole only together with the changes beside it, which the look leaves
         // out, or it is damaged, and then the opening fails as it reads, before it writes.
         return;
     }
-    if (clashes)
-        throw refusal(u"the file belongs to another program"_s);
+    if (objection)
+        throw *objection;
 }
 
 void rehearse(const QString &path)
@@ -224,7 +286,9 @@ std::unique_ptr<UserStore> Store::openProgressFile(const QUrl &url)
 {
     const QFileInfo info(url.toLocalFile());
     // SQLite follows a link and has the companions beside the file that it leads to.
-    const QString path = info.exists() ? info.canonicalFilePath() : info.filePath();
+    const QString path = info.exists() ? info.canonicalFilePath()
+        : info.isSymLink()             ? info.symLinkTarget()
+                                       : info.filePath();
     requireWritableFiles(path);
     const OwnersOnly ownersOnly; // copies too
 

@@ -70,9 +70,21 @@ struct Binder {
 // Far more than a note may take, and little enough to read.
 constexpr int kLongestValue = 64 * 1024 * 1024; // bytes
 
-// A file that anybody may have made gets to run nothing of its own: no trigger, no view, no
-// function in its schema that reaches beyond it. Its internal tables can't be written to, it can't
-// bring in other files, and damage is looked for as pages are read.
+// Texts and blobs of a result. A small file can hold the same long text a million times.
+constexpr qsizetype kLargestResult = 256 * 1024 * 1024; // bytes
+
+// SQLite's own memory, that of all connections together.
+constexpr sqlite3_int64 kMostMemory = 512 * 1024 * 1024; // bytes
+
+// Steps of SQLite's machine in one statement, less than a second: some ten for each row that is
+// read.
+constexpr int kMostSteps = 5'000'000;
+
+// A file that anybody may have made gets to run nothing of its own: no trigger, no view, no check,
+// no function in its schema that reaches beyond it. Its internal tables can't be written to, it
+// can't bring in other files, and damage is looked for as pages are read. What can't be looked for
+// is a tree that leads back to itself, and so statements end when they have gone too far. What they
+// sort stays in memory: a file for it would lie outside the user's folder and grow without bounds.
 void distrust(sqlite3 *handle)
 {
     for (const int trusted : { SQLITE_DBCONFIG_TRUSTED_SCHEMA, SQLITE_DBCONFIG_ENABLE_TRIGGER,
@@ -81,7 +93,13 @@ void distrust(sqlite3 *handle)
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_limit(handle, SQLITE_LIMIT_ATTACHED, 0);
     sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, kLongestValue);
-    sqlite3_exec(handle, "PRAGMA cell_size_check = ON", nullptr, nullptr, nullptr);
+    sqlite3_hard_heap_limit64(kMostMemory);
+    sqlite3_progress_handler(
+        handle, kMostSteps, [](void *) { return 1; }, nullptr);
+    sqlite3_exec(handle,
+        "PRAGMA cell_size_check = ON; PRAGMA ignore_check_constraints = ON;"
+        "PRAGMA temp_store = MEMORY",
+        nullptr, nullptr, nullptr);
 }
 
 QString decodedText(QByteArrayView bytes)
@@ -115,6 +133,16 @@ SQLValue columnValue(sqlite3_stmt *statement, int column)
     default:
         return {};
     }
+}
+
+// What a text or blob takes in memory.
+qsizetype sizeOf(const SQLValue &value)
+{
+    if (const auto *text = std::get_if<QString>(&value.payload()))
+        return text->size() * qsizetype(sizeof(QChar));
+    if (const auto *blob = std::get_if<QByteArray>(&value.payload()))
+        return blob->size();
+    return 0;
 }
 
 } // namespace
@@ -266,11 +294,17 @@ void SQLiteDB::each(const QString &sql, const QList<SQLValue> &arguments,
     for (int column = 0; column < sqlite3_column_count(statement.get()); ++column)
         names.append(QString::fromUtf8(sqlite3_column_name(statement.get(), column)));
 
+    qsizetype size = 0;
     SQLRow row; // One for all: making its table anew takes longer than reading the columns.
     int code = sqlite3_step(statement.get());
     for (; code == SQLITE_ROW; code = sqlite3_step(statement.get())) {
-        for (int column = 0; column < names.size(); ++column)
-            row.values.insert(names.at(column), columnValue(statement.get(), column));
+        for (int column = 0; column < names.size(); ++column) {
+            const SQLValue value = columnValue(statement.get(), column);
+            size += sizeOf(value);
+            row.values.insert(names.at(column), value);
+        }
+        if (size > kLargestResult)
+            throw HVError(HVError::Kind::Database, u"the result is too large"_s, SQLITE_TOOBIG);
         take(row);
     }
     if (code != SQLITE_DONE)

@@ -4,8 +4,11 @@
 // binds, steps and finalizes anew, at the rate of a person clicking. Every failure is an HVError of
 // kind Database that carries SQLite's own message and its primary result code.
 //
-// The file is not trusted: its triggers don't fire, its views can't be read, its schema calls no
-// function that reaches beyond it, and a value of more than 64 MB is an error.
+// The file is not trusted: its triggers don't fire, its views can't be read, its checks aren't
+// made, its schema calls no function that reaches beyond it. It may have been made so that reading
+// it never ends. A value of more than 64 MB is therefore an error, and so is a result of more than
+// 256 MB or a statement that reads some hundred thousand rows. Sorting is done in memory, of which
+// SQLite gets 512 MB in all.
 //
 // A connection has no lock of its own and is used from one thread at a time. Another process may
 // hold the file: a call then waits up to busyTimeout before it fails.

@@ -1,6 +1,7 @@
 #include "kit/preferences.h"
 
 #include "kit/printing.h"
+#include "support/watchdog.h"
 
 #include <QDir>
 #include <QFile>
@@ -9,6 +10,10 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -272,6 +277,28 @@ TEST_F(PreferencesTest, AnUnquotedCommaCanBeReplacedByNothing)
     EXPECT_EQ(changes.keys, QStringList(kTheme));
 }
 
+TEST_F(PreferencesTest, AreTextsWhateverTheFileSaysTheyAre)
+{
+    // The second asks for a list of four thousand million values.
+    for (const char *value : { "@Size(1 2)", R"(@Variant(\0\0\0\x9\xff\xff\xff\xff))",
+             R"(@Variant(\0\0\0\xb\x7f\xff\xff\xff))", "@ByteArray(x)", "@DateTime(x)" }) {
+        writeByHand(QByteArray("[General]\ncrvn.theme=") + value + '\n');
+        EXPECT_TRUE(Preferences(path).text(kTheme).startsWith(u'@')) << value;
+        EXPECT_EQ(Preferences(path).number(kTheme), 0) << value;
+    }
+}
+
+TEST_F(PreferencesTest, LeaveOtherSectionsInTheFile)
+{
+    writeByHand("theme=none\n[Other]\ncrvn.theme=x\nb=1\n\n[General]\n# no\ncrvn.theme = y\n");
+    {
+        Preferences preferences(path);
+        EXPECT_EQ(preferences.text(kTheme), u"y"_s);
+        preferences.set(kTheme, u"brass"_s);
+    }
+    EXPECT_EQ(bytes(), "[General]\ncrvn.theme=brass\ntheme=none\n\n[Other]\nb=1\ncrvn.theme=x\n");
+}
+
 TEST_F(PreferencesTest, AFileThatIsNoneReadsAsEmptyAndCanBeWritten)
 {
     const QByteArray noise("\x00\xFF[[[\n=\n%%%=\xC3\n]]", 16);
@@ -381,4 +408,28 @@ TEST(SharedPreferences, LieInTheUsersConfigurationFolder)
     EXPECT_EQ(file.text(u"a.test"_s), u"was here"_s);
     Preferences::shared().remove(u"a.test"_s);
 }
+#endif
+
+#ifdef Q_OS_UNIX
+
+TEST_F(PreferencesTest, WaitForNoPipe)
+{
+    const Watchdog watchdog;
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(path).path()));
+    ASSERT_EQ(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    Preferences preferences(path);
+    EXPECT_EQ(preferences.text(kTheme), QString());
+    preferences.set(kTheme, u"brass"_s);
+    EXPECT_EQ(preferences.text(kTheme), u"brass"_s);
+}
+
+TEST_F(PreferencesTest, ReadNoFileOfTwentyGigabytes)
+{
+    const Watchdog watchdog;
+    writeByHand("[General]\ncrvn.theme=brass\n");
+    ASSERT_TRUE(QFile::resize(path, 20LL << 30)); // sparse
+    EXPECT_EQ(Preferences(path).text(kTheme), QString());
+    EXPECT_EQ(QFileInfo(path).size(), 20LL << 30);
+}
+
 #endif

@@ -1,6 +1,7 @@
 #include "store/sqlitedb.h"
 
 #include "store/storetesting.h"
+#include "support/environment.h"
 
 #include <gtest/gtest.h>
 
@@ -502,6 +503,57 @@ TEST(SQLiteDB, RefusesAValueThatIsTooLongToBeANote)
         = errorOf([&] { static_cast<void>(db.query(u"SELECT zeroblob((64 << 20) + 1)"_s)); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->sqliteCode(), SQLITE_TOOBIG);
+}
+
+TEST(SQLiteDB, RefusesAResultThatIsTooLargeToBeNotes)
+{
+    const SQLiteDB db(u":memory:"_s);
+    const auto rows = [&db](int count) {
+        return errorOf([&] {
+            db.each(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n LIMIT ?) "
+                    "SELECT zeroblob(64 << 20) FROM n"_s,
+                { count }, [](const SQLRow &) {});
+        });
+    };
+    EXPECT_FALSE(rows(4));
+    const auto error = rows(5);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->sqliteCode(), SQLITE_TOOBIG);
+}
+
+TEST(SQLiteDB, EndsAStatementWithoutEnd)
+{
+    SQLiteDB db(u":memory:"_s);
+    const QString endless = u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
+                            "SELECT COUNT(*) FROM n"_s;
+    for (int time = 0; time < 2; ++time) {
+        const auto error = errorOf([&] { static_cast<void>(db.query(endless)); });
+        ASSERT_TRUE(error);
+        EXPECT_EQ(error->sqliteCode(), SQLITE_INTERRUPT);
+    }
+    EXPECT_TRUE(errorOf([&] { db.exec(endless); }));
+    EXPECT_EQ(db.scalarInt(u"SELECT 1"_s), 1); // each statement has its own time
+}
+
+TEST(SQLiteDB, SortsInMemoryAndNoMoreThanFitsIn)
+{
+    const Folder scratch;
+    const EnvironmentVariable temporaryFolder("TMPDIR", scratch.path());
+    const SQLiteDB db(u":memory:"_s);
+    const auto error = errorOf([&] {
+        static_cast<void>(
+            db.query(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
+                     "SELECT zeroblob(1 << 20) || i AS text FROM n ORDER BY text"_s));
+    });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->sqliteCode(), SQLITE_NOMEM);
+}
+
+TEST(SQLiteDB, MakesNoChecksOfTheFile)
+{
+    SQLiteDB db(u":memory:"_s);
+    db.exec(u"CREATE TABLE t (a CHECK (a < 1)); INSERT INTO t VALUES (2)"_s);
+    EXPECT_EQ(db.scalarInt(u"SELECT a FROM t"_s), 2);
 }
 
 TEST(SQLiteDB, ReadOnlyNeitherCreatesNorWrites)
