@@ -1,9 +1,11 @@
 #include "kit/preferences.h"
 
 #include "kit/ownersonly.h"
-#include "kit/textsettings.h"
 
 #include <QFileInfo>
+#include <QIODevice>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -20,20 +22,41 @@ bool isReadable(const QString &path)
     return !info.exists() || (info.isFile() && info.size() <= kLargestFile);
 }
 
+bool read(QIODevice &device, QSettings::SettingsMap &values)
+{
+    values = QJsonDocument::fromJson(device.readAll()).object().toVariantMap();
+    return true; // what is no JSON holds nothing
+}
+
+bool write(QIODevice &device, const QSettings::SettingsMap &values)
+{
+    const QByteArray bytes = QJsonDocument(QJsonObject::fromVariantMap(values)).toJson();
+    return device.write(bytes) == bytes.size();
+}
+
+// Texts and numbers alone. QSettings' own form takes a text that begins with "@Variant(" for any of
+// Qt's types, makes one as large as it says it is, and so ends the program for want of memory.
+QSettings::Format jsonFormat()
+{
+    static const QSettings::Format format
+        = QSettings::registerFormat(u"json"_s, read, write, Qt::CaseSensitive);
+    return format;
+}
+
 } // namespace
 
 Preferences &Preferences::shared()
 {
     static Preferences preferences(
         QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
-        + "/CRVN Halvorin/CRVN Halvorin.conf"_L1);
+        + "/CRVN Halvorin/CRVN Halvorin.json"_L1);
     return preferences;
 }
 
 Preferences::Preferences(const QString &path)
 {
     if (isReadable(path))
-        m_file = std::make_unique<QSettings>(path, TextSettings::format());
+        m_file = std::make_unique<QSettings>(path, jsonFormat());
 }
 
 Preferences::~Preferences() = default;

@@ -1,6 +1,6 @@
 // What the program remembers beside the user's data: theme, zoom and where its windows stood.
 //
-// One file, "CRVN Halvorin/CRVN Halvorin.conf" in the platform's configuration folder, INI form,
+// One file, "CRVN Halvorin/CRVN Halvorin.json" in the platform's configuration folder,
 // written through at each change. A mode that must leave no trace (snapshots, the self-test)
 // calls keepInMemory() first: from then on the file is neither read nor written, so a run that is
 // killed half-way leaves the user's choices as they were. Main thread only.

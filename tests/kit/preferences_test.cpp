@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
@@ -30,7 +32,7 @@ protected:
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    [[nodiscard]] QList<QByteArray> lines() const { return bytes().split('\n'); }
+    [[nodiscard]] QJsonObject stored() const { return QJsonDocument::fromJson(bytes()).object(); }
 
     // As a user leaves it who edits the file by hand while the program isn't running.
     void writeByHand(const QByteArray &content) const
@@ -42,7 +44,7 @@ protected:
     }
 
     QTemporaryDir folder;
-    QString path = folder.filePath(u"A Program/A Program.conf"_s);
+    QString path = folder.filePath(u"A Program/A Program.json"_s);
 };
 
 // The keys of the changes that a Preferences object has signalled, in their order.
@@ -90,23 +92,21 @@ TEST_F(PreferencesTest, GiveBackWhatWasSet)
     EXPECT_EQ(preferences.number(kZoom), 1.15);
 }
 
-TEST_F(PreferencesTest, AreAnIniFileWithTheKeysAsTheyStand)
+TEST_F(PreferencesTest, AreAnObjectWithTheKeysAsTheyStand)
 {
     Preferences preferences(path);
     preferences.set(kTheme, u"rose-gold"_s);
     preferences.set(kZoom, 1.15);
-    EXPECT_EQ(lines().first(), "[General]");
-    EXPECT_TRUE(lines().contains("crvn.theme=rose-gold")) << bytes().constData();
-    EXPECT_TRUE(lines().contains("crvn.zoom=1.15")) << bytes().constData();
+    EXPECT_EQ(bytes(), "{\n    \"crvn.theme\": \"rose-gold\",\n    \"crvn.zoom\": 1.15\n}\n");
 }
 
 TEST_F(PreferencesTest, AreWrittenThroughAtEachChange)
 {
     Preferences preferences(path);
     preferences.set(kTheme, u"rose-gold"_s);
-    EXPECT_TRUE(lines().contains("crvn.theme=rose-gold")) << bytes().constData();
+    EXPECT_EQ(stored().value(kTheme), u"rose-gold"_s);
     preferences.set(kTheme, u"brushed-gray"_s);
-    EXPECT_TRUE(lines().contains("crvn.theme=brushed-gray")) << bytes().constData();
+    EXPECT_EQ(stored().value(kTheme), u"brushed-gray"_s);
 
     const Preferences second(path);
     EXPECT_EQ(second.text(kTheme), u"brushed-gray"_s);
@@ -164,7 +164,7 @@ TEST_F(PreferencesTest, AreTheirOwnersAlone)
 
 TEST_F(PreferencesTest, ThatOthersCouldReadBecomeTheirOwnersAlone)
 {
-    writeByHand("[General]\n");
+    writeByHand("{}");
     ASSERT_TRUE(QFile::setPermissions(path, QFile::Permissions(0x6666)));
     Preferences(path).set(kTheme, u"crvn.sky"_s);
     EXPECT_EQ(QFile::permissions(path) & QFile::Permissions(0x0077), QFile::Permissions());
@@ -172,7 +172,7 @@ TEST_F(PreferencesTest, ThatOthersCouldReadBecomeTheirOwnersAlone)
 
 TEST_F(PreferencesTest, BehindALinkKeepTheirRightsAndTheLink)
 {
-    writeByHand("[General]\n");
+    writeByHand("{}");
     const QString real = folder.filePath(u"dotfile"_s);
     ASSERT_TRUE(QFile::rename(path, real));
     ASSERT_TRUE(QFile::setPermissions(real, QFile::Permissions(0x6644)));
@@ -207,7 +207,7 @@ TEST_F(PreferencesTest, SignalNothingIfNothingChanges)
 
 TEST_F(PreferencesTest, SettingWhatIsThereAlreadyWritesNothing)
 {
-    writeByHand("; chosen by hand\n[General]\ncrvn.zoom=1.30\ncrvn.theme=rose-gold\n");
+    writeByHand(R"({"crvn.zoom":1.30,"crvn.theme":"rose-gold"})");
     const QByteArray before = bytes();
     Preferences preferences(path);
     preferences.set(kTheme, u"rose-gold"_s);
@@ -216,7 +216,7 @@ TEST_F(PreferencesTest, SettingWhatIsThereAlreadyWritesNothing)
 
 TEST_F(PreferencesTest, ReadFromTheFileCountAsSet)
 {
-    writeByHand("[General]\ncrvn.zoom=1.3\n");
+    writeByHand(R"({ "crvn.zoom": 1.3 })");
     Preferences preferences(path);
     const Changes changes(preferences);
     preferences.set(kZoom, 1.3);
@@ -247,29 +247,32 @@ TEST_F(PreferencesTest, AnEmptyTextIsAValue)
 
 TEST_F(PreferencesTest, WhatIsNoNumberReadsAsZero)
 {
-    for (const char *value : { "", "large", "115%", "1,5", "1.15 or so", "@Invalid()" }) {
-        writeByHand(QByteArray("[General]\ncrvn.zoom=") + value + '\n');
+    for (const char *value : { R"("")", R"("large")", R"("115%")", R"("1,5")", R"("1.15 or so")",
+             "null", "false", "[1.15]", R"({ "crvn.zoom": 1.15 })", "1.15 or so", "1e999" }) {
+        writeByHand(R"({ "crvn.zoom": )" + QByteArray(value) + " }");
         EXPECT_EQ(Preferences(path).number(kZoom), 0) << value;
     }
 }
 
 TEST_F(PreferencesTest, ANumberInOtherSpellingsReadsAsThatNumber)
 {
-    for (const char *value : { "1.5", "1.50", "\"1.5\"", "15e-1", "+1.5" }) {
-        writeByHand(QByteArray("[General]\ncrvn.zoom=") + value + '\n');
+    for (const char *value : { "1.5", "1.50", "15e-1", R"("1.5")", R"("+1.5")" }) {
+        writeByHand(R"({ "crvn.zoom": )" + QByteArray(value) + " }");
         EXPECT_EQ(Preferences(path).number(kZoom), 1.5) << value;
     }
 }
 
-TEST_F(PreferencesTest, AnUnquotedCommaStaysInTheText)
+TEST_F(PreferencesTest, WhatIsNoTextReadsAsEmpty)
 {
-    writeByHand("[General]\ncrvn.theme=rose,gold\n");
-    EXPECT_EQ(Preferences(path).text(kTheme), u"rose,gold"_s);
+    for (const char *value : { "null", R"(["rose-gold"])", R"({ "crvn.theme": "rose-gold" })" }) {
+        writeByHand(R"({ "crvn.theme": )" + QByteArray(value) + " }");
+        EXPECT_EQ(Preferences(path).text(kTheme), QString()) << value;
+    }
 }
 
-TEST_F(PreferencesTest, AnUnquotedCommaCanBeReplacedByNothing)
+TEST_F(PreferencesTest, ATextCanBeReplacedByNothing)
 {
-    writeByHand("[General]\ncrvn.theme=rose,gold\n");
+    writeByHand(R"({ "crvn.theme": "rose-gold" })");
     Preferences preferences(path);
     const Changes changes(preferences);
     preferences.set(kTheme, QString());
@@ -279,24 +282,13 @@ TEST_F(PreferencesTest, AnUnquotedCommaCanBeReplacedByNothing)
 
 TEST_F(PreferencesTest, AreTextsWhateverTheFileSaysTheyAre)
 {
-    // The second asks for a list of four thousand million values.
-    for (const char *value : { "@Size(1 2)", R"(@Variant(\0\0\0\x9\xff\xff\xff\xff))",
-             R"(@Variant(\0\0\0\xb\x7f\xff\xff\xff))", "@ByteArray(x)", "@DateTime(x)" }) {
-        writeByHand(QByteArray("[General]\ncrvn.theme=") + value + '\n');
+    // In QSettings' own form the second asks for a list of four thousand million values.
+    for (const char *value : { "@Size(1 2)",
+             R"(@Variant(\u0000\u0000\u0000\u0009\u00ff\u00ff\u00ff\u00ff))", "@ByteArray(x)" }) {
+        writeByHand(R"({ "crvn.theme": ")" + QByteArray(value) + R"(" })");
         EXPECT_TRUE(Preferences(path).text(kTheme).startsWith(u'@')) << value;
         EXPECT_EQ(Preferences(path).number(kTheme), 0) << value;
     }
-}
-
-TEST_F(PreferencesTest, LeaveOtherSectionsInTheFile)
-{
-    writeByHand("theme=none\n[Other]\ncrvn.theme=x\nb=1\n\n[General]\n# no\ncrvn.theme = y\n");
-    {
-        Preferences preferences(path);
-        EXPECT_EQ(preferences.text(kTheme), u"y"_s);
-        preferences.set(kTheme, u"brass"_s);
-    }
-    EXPECT_EQ(bytes(), "[General]\ncrvn.theme=brass\ntheme=none\n\n[Other]\nb=1\ncrvn.theme=x\n");
 }
 
 TEST_F(PreferencesTest, AFileThatIsNoneReadsAsEmptyAndCanBeWritten)
@@ -314,11 +306,12 @@ TEST_F(PreferencesTest, AFileThatIsNoneReadsAsEmptyAndCanBeWritten)
 
 TEST_F(PreferencesTest, ValuesOfOthersInTheFileStay)
 {
-    writeByHand("[General]\nwritten.by=hand\n\n[Section]\nkey=value\n");
-    Preferences preferences(path);
-    preferences.set(kTheme, u"rose-gold"_s);
-    EXPECT_TRUE(lines().contains("written.by=hand")) << bytes().constData();
-    EXPECT_TRUE(lines().contains("key=value")) << bytes().constData();
+    writeByHand(R"({ "written.by": "hand", "list": [1, null], "inner": { "crvn.theme": "x" } })");
+    const QJsonObject before = stored();
+    Preferences(path).set(kTheme, u"rose-gold"_s);
+    QJsonObject after = stored();
+    EXPECT_EQ(after.take(kTheme), u"rose-gold"_s);
+    EXPECT_EQ(after, before);
 }
 
 TEST_F(PreferencesTest, AFileThatCanNotBeWrittenCostsOnlyTheMemoryOfTheNextLaunch)
@@ -338,7 +331,7 @@ TEST_F(PreferencesTest, AFileThatCanNotBeWrittenCostsOnlyTheMemoryOfTheNextLaunc
 
 TEST_F(PreferencesTest, KeptInMemoryLeaveTheFileByteForByteAlone)
 {
-    writeByHand("; mine\n[General]\ncrvn.theme=rose-gold\ncrvn.zoom=1.30\n");
+    writeByHand(R"({"crvn.theme":"rose-gold","crvn.zoom":1.30})");
     const QByteArray before = bytes();
     {
         Preferences preferences(path);
@@ -364,7 +357,7 @@ TEST_F(PreferencesTest, KeptInMemoryMakeNoFile)
 
 TEST_F(PreferencesTest, KeptInMemoryForgetWhatTheFileHeld)
 {
-    writeByHand("[General]\ncrvn.theme=rose-gold\n");
+    writeByHand(R"({ "crvn.theme": "rose-gold" })");
     Preferences preferences(path);
     ASSERT_TRUE(preferences.contains(kTheme));
     preferences.keepInMemory();
@@ -404,7 +397,7 @@ TEST(SharedPreferences, LieInTheUsersConfigurationFolder)
     ASSERT_TRUE(folder.startsWith(QDir::tempPath()));
 
     Preferences::shared().set(u"a.test"_s, u"was here"_s);
-    const Preferences file(folder + u"/CRVN Halvorin/CRVN Halvorin.conf"_s);
+    const Preferences file(folder + u"/CRVN Halvorin/CRVN Halvorin.json"_s);
     EXPECT_EQ(file.text(u"a.test"_s), u"was here"_s);
     Preferences::shared().remove(u"a.test"_s);
 }
@@ -426,7 +419,7 @@ TEST_F(PreferencesTest, WaitForNoPipe)
 TEST_F(PreferencesTest, ReadNoFileOfTwentyGigabytes)
 {
     const Watchdog watchdog;
-    writeByHand("[General]\ncrvn.theme=brass\n");
+    writeByHand(R"({ "crvn.theme": "brass" })");
     ASSERT_TRUE(QFile::resize(path, 20LL << 30)); // sparse
     EXPECT_EQ(Preferences(path).text(kTheme), QString());
     EXPECT_EQ(QFileInfo(path).size(), 20LL << 30);

@@ -37,7 +37,7 @@ protected:
     void choose(const QString &theme) const
     {
         ASSERT_TRUE(QDir().mkpath(QFileInfo(home.preferencesFile()).path()));
-        writeFile(home.preferencesFile(), "[General]\ncrvn.theme=" + theme.toUtf8() + "\n");
+        writeFile(home.preferencesFile(), R"({ "crvn.theme": ")" + theme.toUtf8() + R"(" })");
     }
 
     Home home;

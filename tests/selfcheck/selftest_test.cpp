@@ -96,7 +96,7 @@ void makeUser(const QString &progressFile, const QString &preferencesFile)
     ASSERT_TRUE(QDir().mkpath(QFileInfo(progressFile).path()));
     UserStore(QUrl::fromLocalFile(progressFile)).setComplete(u"m01.1"_s, true);
     ASSERT_TRUE(QDir().mkpath(QFileInfo(preferencesFile).path()));
-    writeFile(preferencesFile, "[General]\ncrvn.theme=rose-gold\ncrvn.zoom=1.5\n");
+    writeFile(preferencesFile, R"({ "crvn.theme": "rose-gold", "crvn.zoom": 1.5 })");
 }
 
 } // namespace
@@ -227,7 +227,7 @@ TEST_F(SelfTest, LeavesAHomeWithItsUsualFoldersAsItIs)
         { u"XDG_DATA_HOME"_s, u"XDG_CONFIG_HOME"_s, u"XDG_CACHE_HOME"_s })
         home.environment.remove(variable);
     const QString progress = home.path(u".local/share/CRVN Halvorin/My Progress.sqlite"_s);
-    makeUser(progress, home.path(u".config/CRVN Halvorin/CRVN Halvorin.conf"_s));
+    makeUser(progress, home.path(u".config/CRVN Halvorin/CRVN Halvorin.json"_s));
     ASSERT_TRUE(QDir().mkpath(home.path(u".cache"_s)));
     const Fingerprint before = home.fingerprint();
     // when, then

@@ -298,7 +298,7 @@ TEST_F(Snapshot, LeavesTheUsersProgressAndPreferencesAsTheyAre)
     ASSERT_TRUE(QDir().mkpath(home.dataFolder()));
     UserStore(QUrl::fromLocalFile(home.progressFile())).setComplete(u"a1-l1"_s, true);
     ASSERT_TRUE(QDir().mkpath(QFileInfo(home.preferencesFile()).path()));
-    writeFile(home.preferencesFile(), "[General]\ncrvn.theme=rose-gold\ncrvn.zoom=1.5\n");
+    writeFile(home.preferencesFile(), R"({ "crvn.theme": "rose-gold", "crvn.zoom": 1.5 })");
     const Fingerprint data = fingerprint(home.dataFolder());
     const Fingerprint settings = fingerprint(QFileInfo(home.preferencesFile()).path());
     // when
@@ -354,7 +354,7 @@ TEST_F(Snapshot, NeedsNoDisplay)
 TEST_F(Snapshot, TheUsersThemeAndZoomDoNotShowInThePictures)
 {
     ASSERT_TRUE(QDir().mkpath(QFileInfo(home.preferencesFile()).path()));
-    writeFile(home.preferencesFile(), "[General]\ncrvn.theme=rose-gold\ncrvn.zoom=1.5\n");
+    writeFile(home.preferencesFile(), R"({ "crvn.theme": "rose-gold", "crvn.zoom": 1.5 })");
     ASSERT_EQ(take().status, 0);
     expectPicturesAsEverywhere();
 }

@@ -101,7 +101,7 @@ QString Home::progressFile() const
 
 QString Home::preferencesFile() const
 {
-    return path(u"config/CRVN Halvorin/CRVN Halvorin.conf"_s);
+    return path(u"config/CRVN Halvorin/CRVN Halvorin.json"_s);
 }
 
 QString Home::socket() const

@@ -2,7 +2,7 @@
 
 Started by ./walk, which makes the desktop around it."""
 
-import configparser
+import json
 import os
 import signal
 import subprocess
@@ -124,10 +124,12 @@ class Walk(unittest.TestCase):
         self.assertEqual(nameless, [], where)
 
     def preference(self, key):
-        path = os.path.expanduser("~/.config/CRVN Halvorin/CRVN Halvorin.conf")
-        ini = configparser.ConfigParser()
-        ini.read(path)
-        return ini.get("General", key, fallback=None)
+        path = os.path.expanduser("~/.config/CRVN Halvorin/CRVN Halvorin.json")
+        try:
+            with open(path, encoding="utf-8") as file:
+                return json.load(file).get(key)
+        except (FileNotFoundError, json.JSONDecodeError):  # not there yet, or not yet whole
+            return None
 
     def test_camera_has_its_names(self):
         for role, name in [("push button", "Mode dial, Campus"),
@@ -267,10 +269,10 @@ class Walk(unittest.TestCase):
     def test_a_menu_changes_the_zoom(self):
         act(self.get("menu bar", "View"), "Press")
         act(self.get("menu item", "Zoom In"), "Press")
-        until(lambda: self.preference("crvn.zoom") == "1.15", "the zoom is kept")
+        until(lambda: self.preference("crvn.zoom") == 1.15, "the zoom is kept")
         act(self.get("menu bar", "View"), "Press")
         act(self.get("menu item", "Actual Size (100%)"), "Press")
-        until(lambda: self.preference("crvn.zoom") == "1", "the zoom is back")
+        until(lambda: self.preference("crvn.zoom") == 1, "the zoom is back")
 
     def test_a_menu_changes_the_theme_and_tells_which(self):
         for theme in ["Rose Gold", "Medium Format Black & Brass"]:
