@@ -189,8 +189,8 @@ void rehearseIn(const QString &place, const QString &path)
 
 // What a look at the file can tell where no copy can be made: whether it has a table that the
 // opening would stumble over only after it has written, since that indexes two columns of notes and
-// adds a row of two to meta. It finds less than a rehearsal does, but a full disk is no reason to
-// keep users from their own file.
+// adds a row of two to meta, or one that isn't ordinary. It finds less than a rehearsal does, but a
+// full disk is no reason to keep users from their own file.
 void lookAtTables(const QString &path)
 {
     std::optional<HVError> objection;
