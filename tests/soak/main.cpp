@@ -25,7 +25,9 @@
 #include <QTest>
 #include <QThread>
 
+#include <cstdlib>
 #include <iostream>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
