@@ -96,8 +96,8 @@ int main(int argc, char **argv)
     }
     const double minutes = std::atof(argv[1]);
     const auto seed = unsigned(std::atoi(argv[2]));
+    Findings findings; // outlives all that may warn
     const OwnHome home;
-    Findings findings;
     QString progress;
     QStringList summary;
 
