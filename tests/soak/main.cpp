@@ -25,7 +25,9 @@
 #include <QTest>
 #include <QThread>
 
+#include <cstdlib>
 #include <iostream>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -94,8 +96,8 @@ int main(int argc, char **argv)
     }
     const double minutes = std::atof(argv[1]);
     const auto seed = unsigned(std::atoi(argv[2]));
+    Findings findings; // outlives all that may warn
     const OwnHome home;
-    Findings findings;
     QString progress;
     QStringList summary;
 

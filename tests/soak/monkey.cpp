@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QKeySequence>
 #include <QQuickItem>
 #include <QTest>
 #include <QWheelEvent>

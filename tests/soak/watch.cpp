@@ -11,10 +11,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kBeat = 10;     // ms
-constexpr int kStall = 200;   // ms
-constexpr int kHang = 60;     // s
-constexpr size_t kLeast = 60; // looks at the memory
+constexpr int kBeat = 10;      // ms
+constexpr int kStall = 200;    // ms
+constexpr int kHang = 60;      // s
+constexpr size_t kLeast = 600; // looks at the memory: before ten minutes it still warms up
 
 std::function<void(const QString &)> &storedReport()
 {

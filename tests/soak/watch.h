@@ -57,7 +57,8 @@ public:
     MemoryWatch();
 
     /// Growth from the first to the last quarter of what follows the warm-up, the first fifth of
-    /// the run: median over median, so 1 if there is none. Nothing of a run of less than a minute.
+    /// the run: median over median, so 1 if there is none. Nothing of a run of less than ten
+    /// minutes.
     [[nodiscard]] std::optional<double> growth() const;
     [[nodiscard]] QString summary() const;
 
