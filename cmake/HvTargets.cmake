@@ -89,10 +89,11 @@ function(hv_add_qml_plugin folder)
         DESTINATION "${place}" COMPONENT ${folder})
 endfunction()
 
-# hv_add_test(<folder> SOURCES … LINK … DEFINE …)
-# A folder's GoogleTest program; ctest lists each of its tests by name.
+# hv_add_test(<folder> [AT_ONCE] SOURCES … LINK … DEFINE …)
+# A folder's GoogleTest program; ctest lists each of its tests by name. With AT_ONCE it lists the program
+# alone and runs all tests in one process, for tests that share what takes long to make.
 function(hv_add_test folder)
-    cmake_parse_arguments(arg "" "" "SOURCES;LINK;DEFINE" ${ARGN})
+    cmake_parse_arguments(arg "AT_ONCE" "" "SOURCES;LINK;DEFINE" ${ARGN})
     set(target test_${folder})
     add_executable(${target} ${arg_SOURCES})
     set_target_properties(${target} PROPERTIES AUTOMOC ON)
@@ -100,12 +101,21 @@ function(hv_add_test folder)
     target_compile_definitions(${target} PRIVATE ${arg_DEFINE})
     target_link_libraries(${target} PRIVATE hv_warnings ${arg_LINK} GTest::gtest)
     hv_precompile(${target} test)
-    gtest_discover_tests(${target}
-        DISCOVERY_TIMEOUT 60
-        PROPERTIES
-            TIMEOUT 300
+    set(environment "QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software")
+    if(arg_AT_ONCE)
+        add_test(NAME ${target} COMMAND ${target})
+        set_tests_properties(${target} PROPERTIES
+            TIMEOUT 900
             LABELS ${folder}
-            ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software")
+            ENVIRONMENT "${environment}")
+    else()
+        gtest_discover_tests(${target}
+            DISCOVERY_TIMEOUT 60
+            PROPERTIES
+                TIMEOUT 300
+                LABELS ${folder}
+                ENVIRONMENT "${environment}")
+    endif()
 endfunction()
 
 # hv_add_qml_test(<folder> SOURCES … LINK …)

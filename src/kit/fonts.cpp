@@ -62,4 +62,11 @@ QFont monospaced(double size, QFont::Weight weight)
     return font(monospacedFamily(), size, weight);
 }
 
+QFont inPixels(const QFont &font)
+{
+    QFont result = font;
+    result.setPixelSize(qRound(font.pointSizeF()));
+    return result;
+}
+
 } // namespace Fonts

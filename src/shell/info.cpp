@@ -58,7 +58,8 @@ QString dataFolderPath()
     const QString base = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     if (base.isEmpty())
         qFatal("This platform names no folder for application data.");
-    return base + QStringLiteral("/CRVN Halvorin");
+    // A user without a home has the root, which the platform writes with a slash too many.
+    return QDir::cleanPath(base + QStringLiteral("/CRVN Halvorin"));
 }
 
 QString dataFolder()

@@ -1,6 +1,7 @@
 import QtQuick
 import QtTest
 import Halvorin.Camera
+import Halvorin.Shell
 
 TestCase {
     id: test
@@ -54,5 +55,13 @@ TestCase {
         item.scrollTo(500, 500);
         compare(item.contentX, 0);
         compare(item.contentY, 250);
+    }
+
+    function test_is_called_by_its_screen_unless_it_has_a_name_of_its_own() {
+        const item = createTemporaryObject(scrolls, test);
+        compare(item.Accessible.role, Accessible.Pane);
+        compare(item.Accessible.name, AppModel.screenTitle);
+        item.spokenName = "A page";
+        compare(item.Accessible.name, "A page");
     }
 }

@@ -5,6 +5,7 @@
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QImage>
 
 #include <gtest/gtest.h>
 
@@ -91,4 +92,23 @@ TEST(MonospacedFont, GivesAllFiguresOneWidth)
     ASSERT_GT(width, 0);
     for (const QChar character : u"123456789/.iW"_s)
         EXPECT_EQ(metrics.horizontalAdvance(character), width) << qPrintable(QString(character));
+}
+
+TEST(FontInPixels, IsAsLargeInAControlOfAPlatformThatThinksOfAnotherScreen)
+{
+    // given: the platform's font, made for 100 dots per inch
+    QImage screen(1, 1, QImage::Format_RGB32);
+    screen.setDotsPerMeterX(3937);
+    screen.setDotsPerMeterY(3937);
+    const QFont platforms(QFont(), &screen);
+    const auto heightIn = [&platforms](const QFont &font) {
+        return QFontInfo(font.resolve(platforms)).pixelSize();
+    };
+    const QFont inPoints = Fonts::rounded(13, QFont::Medium);
+    ASSERT_NE(heightIn(inPoints), 13);
+    // when, then
+    EXPECT_EQ(heightIn(Fonts::inPixels(inPoints)), 13);
+    EXPECT_EQ(Fonts::inPixels(inPoints).family(), inPoints.family());
+    EXPECT_EQ(Fonts::inPixels(inPoints).weight(), QFont::Medium);
+    EXPECT_EQ(heightIn(Fonts::inPixels(Fonts::rounded(13.5))), 14);
 }

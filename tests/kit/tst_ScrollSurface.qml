@@ -10,6 +10,13 @@ TestCase {
     height: 300
     visible: true
 
+    Pressable {
+        id: before
+        x: 390
+        y: 290
+        width: 5
+        height: 5
+    }
     Component {
         id: surfaces
         ScrollSurface {
@@ -104,6 +111,18 @@ TestCase {
         compare(surface.contentY, 0);
     }
 
+    function test_tab_goes_on_from_it_to_its_first_control() {
+        surface.forceActiveFocus();
+        keyClick(Qt.Key_Tab);
+        verify(!before.activeFocus && !surface.activeFocus && !surface.farButton.activeFocus);
+        keyClick(Qt.Key_Tab);
+        verify(surface.farButton.activeFocus);
+    }
+    function test_backtab_goes_from_it_to_the_control_before() {
+        surface.forceActiveFocus();
+        keyClick(Qt.Key_Backtab);
+        verify(before.activeFocus);
+    }
     function test_follows_the_arrow_keys_sideways() {
         surface.contentWidth = 290;
         surface.forceActiveFocus();

@@ -110,6 +110,13 @@ TEST_F(HVInfoPlaces, CanBeNamedWithoutBeingCreated)
     EXPECT_EQ(HVInfo::databasePath(), home.path(u"mine.sqlite"_s));
 }
 
+TEST_F(HVInfoPlaces, DataOfAUserWithoutAHomeLieUnderTheRoot)
+{
+    const EnvironmentVariable noData("XDG_DATA_HOME", std::nullopt);
+    const EnvironmentVariable noHome("HOME", std::nullopt);
+    EXPECT_EQ(HVInfo::dataFolderPath(), u"/.local/share/CRVN Halvorin"_s);
+}
+
 TEST_F(HVInfoPlaces, TheDataFolderStandsInThePlatformsPlaceForApplicationData)
 {
     EXPECT_EQ(HVInfo::dataFolder(), home.path(u"data/CRVN Halvorin"_s));

@@ -1,9 +1,11 @@
 import QtQuick
 import Halvorin.Kit
 import Halvorin.Camera
+import Halvorin.Shell
 
 /*! Vertical scrolling for a screen: a column as high as it wants to be. While pictures are taken
-    it shows the top of its content and no bar. */
+    it shows the top of its content and no bar. Where it gets the focus, its name is what a screen
+    reader says of a screen or a page that has just come. */
 ScrollSurface {
     id: root
 
@@ -11,12 +13,16 @@ ScrollSurface {
     property real padding: 22
     property real spacing: 16
     property real maximumWidth: Infinity
+    property string spokenName: AppModel.screenTitle
     default property alias content: column.data
 
     contentWidth: width
     contentHeight: column.implicitHeight + 2 * root.padding
     barInk: root.c.glow
     barVisible: !CNUI.posing
+    Accessible.role: Accessible.Pane
+    Accessible.name: root.spokenName
+    Accessible.focusable: true
 
     Column {
         id: column

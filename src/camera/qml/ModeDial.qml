@@ -30,6 +30,7 @@ Row {
         focusInk: root.c.glow
         tip: qsTr("Mode dial: %1. Click to turn to the next screen.").arg(AppModel.screenTitle)
         Accessible.name: qsTr("Mode dial, %1").arg(AppModel.screenTitle)
+        Accessible.description: qsTr("Turns to the next screen") // without the tip's repetition
         onClicked: AppModel.step(1)
         Keys.onUpPressed: AppModel.step(1)
         Keys.onRightPressed: AppModel.step(1)

@@ -21,6 +21,7 @@ Pressable {
     focusInk: root.c.glow
     tip: qsTr("Continue the course where you left off")
     Accessible.name: qsTr("Continue the course")
+    Accessible.description: qsTr("Where you left off") // without the tip's repetition
     onClicked: AppModel.continueCourse()
 
     background: Item {

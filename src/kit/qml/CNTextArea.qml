@@ -52,7 +52,7 @@ Item {
             selectByMouse: true
             textFormat: TextEdit.PlainText
             wrapMode: TextEdit.Wrap
-            font: Type.prose
+            font: Type.writing
             onCursorRectangleChanged: pane.follow(cursorRectangle)
             Accessible.role: Accessible.EditableText
             Accessible.name: root.title

@@ -15,6 +15,11 @@ ListView {
         behavior.scrollTo(x, y);
     }
 
+    /*! What Tab does that no row answers. */
+    function goOn(forward: bool): bool {
+        return behavior.goOn(forward);
+    }
+
     interactive: false
     boundsBehavior: Flickable.StopAtBounds
     clip: true

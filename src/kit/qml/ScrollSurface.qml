@@ -26,6 +26,8 @@ Flickable {
     clip: true
 
     onMovementStarted: ++root.handMoves
+    Keys.onTabPressed: event => event.accepted = behavior.goOn(true)
+    Keys.onBacktabPressed: event => event.accepted = behavior.goOn(false)
 
     onContentWidthChanged: stayInside()
     onContentHeightChanged: stayInside()

@@ -85,6 +85,15 @@ bool ScrollBehavior::moveTo(qreal x, qreal y)
     return moved;
 }
 
+bool ScrollBehavior::goOn(bool forward)
+{
+    if (!pane()->hasActiveFocus())
+        return false;
+    pane()->nextItemInFocusChain(forward)->forceActiveFocus(
+        forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
+
 void ScrollBehavior::stayInsideLater()
 {
     QMetaObject::invokeMethod(

@@ -32,6 +32,11 @@ public:
     /// goes. Returns whether anything moved.
     Q_INVOKABLE bool scrollTo(qreal x, qreal y);
 
+    /// Gives the focus of the pane itself to the next control, the first in it, or to the one
+    /// before; the window's own way on from what isn't reached by Tab would begin at its first
+    /// control again. False, and nothing happens, if something else has the focus.
+    Q_INVOKABLE bool goOn(bool forward);
+
     /// Brings the pane back between the ends of its content as soon as that is laid out.
     Q_INVOKABLE void stayInsideLater();
 

@@ -46,6 +46,7 @@ class Type : public QObject
     Q_PROPERTY(QFont noteTarget MEMBER noteTarget CONSTANT)
     Q_PROPERTY(QFont date MEMBER date CONSTANT)
     Q_PROPERTY(QFont field MEMBER field CONSTANT)
+    Q_PROPERTY(QFont writing MEMBER writing CONSTANT)
     Q_PROPERTY(QFont button MEMBER button CONSTANT)
     Q_PROPERTY(QFont compactButton MEMBER compactButton CONSTANT)
     Q_PROPERTY(QFont compactChrome MEMBER compactChrome CONSTANT)
@@ -107,7 +108,8 @@ public:
     const QFont link = Fonts::rounded(13, QFont::DemiBold);
     const QFont topic = Fonts::rounded(13, QFont::Medium);
     const QFont currentTopic = Fonts::rounded(13, QFont::Bold);
-    const QFont field = Fonts::rounded(13, QFont::Medium);
+    const QFont field = Fonts::inPixels(Fonts::rounded(13, QFont::Medium));
+    const QFont writing = Fonts::inPixels(prose);
     const QFont button = Fonts::rounded(12.5, QFont::Bold);
     const QFont compactButton = Fonts::rounded(11.5, QFont::Bold);
     const QFont compactChrome = Fonts::rounded(11, QFont::Bold);

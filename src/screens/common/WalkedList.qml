@@ -53,6 +53,8 @@ ScrollList {
     barInk: root.c.glow
     barVisible: !CNUI.posing
     Accessible.role: Accessible.List
+    Keys.onTabPressed: event => event.accepted = root.goOn(true)
+    Keys.onBacktabPressed: event => event.accepted = root.goOn(false)
 
     Timer {
         id: later

@@ -1,6 +1,7 @@
 import QtQuick
 import Halvorin.Kit
 import Halvorin.Camera
+import Halvorin.Shell
 import Halvorin.Screens
 
 /*! What the user has achieved and kept: progress, bookmarks and all notes. */
@@ -37,6 +38,9 @@ ScrollList {
         item.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason);
     }
 
+    Accessible.role: Accessible.Pane
+    Accessible.name: AppModel.screenTitle
+    Accessible.focusable: true
     Keys.onTabPressed: (root.headerItem as NotesHeader).firstButton.forceActiveFocus(Qt.TabFocusReason)
 
     Timer {

@@ -33,6 +33,7 @@ HVScroll {
         root.forceActiveFocus();
     }
 
+    spokenName: taking.title
     padding: 24
     spacing: 14
     maximumWidth: 860

@@ -193,6 +193,10 @@ TestCase {
         compare(slider().Accessible.role, Accessible.Slider);
         compare(slider().Accessible.name, "Aperture");
         compare(slider().Accessible.description, "f/4");
+        compare(slider().stepSize, 0.1); // f/1.1 from f/1
+        dial.scaleOfStops = LabScales.shutter;
+        fuzzyCompare(slider().stepSize, 1 / 6400 - 1 / 8000, 1e-6);
+        dial.scaleOfStops = LabScales.aperture;
         compare(button("+").Accessible.name, "Aperture: step up");
         compare(button("−").Accessible.name, "Aperture: step down");
     }

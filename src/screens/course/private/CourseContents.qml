@@ -12,6 +12,7 @@ HVScroll {
     /*! A lesson or a quiz has been chosen by mouse or finger. */
     signal chosen()
 
+    spokenName: qsTr("Contents")
     padding: 16
     spacing: 4
 

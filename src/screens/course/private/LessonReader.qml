@@ -8,6 +8,8 @@ import Halvorin.Shell
 HVScroll {
     id: root
 
+    spokenName: lesson.title
+
     required property string lessonID
 
     padding: 26

@@ -11,6 +11,8 @@ HVScroll {
 
     required property string moduleID
 
+    spokenName: module.title
+
     padding: 24
     spacing: 14
 

@@ -20,6 +20,7 @@ HVScroll {
         head.focusDrawing();
     }
 
+    spokenName: root.title
     padding: 24
     spacing: 14
     maximumWidth: 900

@@ -9,6 +9,7 @@ import Halvorin.Screens
 HVScroll {
     id: root
 
+    spokenName: event.title
     padding: 24
     spacing: 14
     maximumWidth: 860

@@ -10,6 +10,7 @@ HVScroll {
     required property string videoID
     readonly property bool playerHasFocus: stage.activeFocus
 
+    spokenName: video.title
     padding: 22
     spacing: 12
     maximumWidth: metrics.widestStage + 2 * root.padding

@@ -109,7 +109,7 @@ QUrl VideoStage::playerFile() const
     QQmlEngine *engine = qmlEngine(this);
     if (!engine->importPathList().contains(HVInfo::pluginFolder()))
         engine->addImportPath(HVInfo::pluginFolder());
-    return QUrl(u"qrc:/videos/LoadedPlayer.qml"_s);
+    return QUrl(u"qrc:/qt/qml/Halvorin/Screens/LoadedPlayer.qml"_s);
 }
 
 void VideoStage::fail()

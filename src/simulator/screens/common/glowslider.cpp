@@ -120,6 +120,18 @@ void GlowSlider::step(int steps)
                    : SliderReading::moved(std::clamp(m_shown, least(), greatest()), steps));
 }
 
+double GlowSlider::smallestStep() const
+{
+    if (!hasStops())
+        return SliderReading::moved(least(), 1) - least();
+    const auto &stops = m_scale.stops();
+    double smallest = greatest() - least();
+    for (qsizetype i = 1; i < stops.size(); ++i)
+        smallest = std::min(smallest, std::abs(stops[i] - stops[i - 1]));
+    // 1.2 − 1.1 isn't quite 0.1, which would be read with a decimal too many.
+    return std::round(smallest * 1e6) / 1e6;
+}
+
 double GlowSlider::trackLength() const
 {
     return std::max(width() - 2 * kHaloRadius, 1.0);

@@ -39,6 +39,7 @@ class GlowSlider : public CameraSurface
     Q_PROPERTY(double value READ shown WRITE ask NOTIFY valueChanged)
     Q_PROPERTY(double minimumValue READ least NOTIFY rangeChanged)
     Q_PROPERTY(double maximumValue READ greatest NOTIFY rangeChanged)
+    Q_PROPERTY(double stepSize READ smallestStep NOTIFY rangeChanged)
 public:
     explicit GlowSlider(QQuickItem *parent = nullptr);
 
@@ -92,6 +93,8 @@ private:
     [[nodiscard]] double last() const;
     [[nodiscard]] double least() const { return qMin(first(), last()); }
     [[nodiscard]] double greatest() const { return qMax(first(), last()); }
+    /// By which a screen reader knows how many decimals to read.
+    [[nodiscard]] double smallestStep() const;
 
     // Along the track, from 0 to 1.
     [[nodiscard]] double fraction() const;
