@@ -510,7 +510,7 @@ TEST_F(Snapshot, ALinkInThePlaceOfTheSampleLeadsNowhere)
     }
     EXPECT_EQ(take().status, 0);
     EXPECT_EQ(fileBytes(home.path(u"precious"_s)), QByteArray("notes"));
-    expectNoTraceOfTheSample();
+    expectNoTraceOfTheSample(home);
 }
 
 TEST_F(Snapshot, ReplacesTheSampleThatAnEarlierRunHasLeft)
