@@ -1,5 +1,8 @@
 # The kinds of target in this project. A folder's CMakeLists.txt calls these and nothing else.
 
+# A display that nobody sees, large enough for the window: the platform's own is 800 × 800.
+set(HV_OFFSCREEN "offscreen:configfile=${PROJECT_SOURCE_DIR}/cmake/display.json")
+
 # hv_precompile(<target> <kind>)
 # Reads Qt's headers from what was parsed once for all targets of the kind: "plain" libraries,
 # "quick" modules or "test" programs. It saves time and nothing else: sources include what they use,
@@ -126,6 +129,7 @@ function(hv_add_qml_test folder)
     add_executable(${target} ${arg_SOURCES})
     set_target_properties(${target} PROPERTIES AUTOMOC ON)
     target_compile_definitions(${target} PRIVATE
+        HV_OFFSCREEN="${HV_OFFSCREEN}"
         QUICK_TEST_SOURCE_DIR="${CMAKE_CURRENT_SOURCE_DIR}")
     target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
     target_link_libraries(${target} PRIVATE hv_warnings ${arg_LINK} Qt6::QuickTest)
@@ -133,7 +137,7 @@ function(hv_add_qml_test folder)
     set_tests_properties(${target} PROPERTIES
         TIMEOUT 300
         LABELS ${folder}
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software")
+        ENVIRONMENT "QT_QPA_PLATFORM=${HV_OFFSCREEN};QT_QUICK_BACKEND=software")
 endfunction()
 
 # hv_add_fuzz(<name> SOURCES … LINK …)

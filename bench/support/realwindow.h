@@ -22,7 +22,7 @@ public:
         for (const char *name : { "HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR" })
             qputenv(name, m_home.path().toLocal8Bit());
         if (!qEnvironmentVariableIsSet("DISPLAY"))
-            qputenv("QT_QPA_PLATFORM", "offscreen");
+            qputenv("QT_QPA_PLATFORM", HV_OFFSCREEN);
     }
 
     [[nodiscard]] QString path() const { return m_home.path(); }

@@ -66,10 +66,8 @@ WindowPlace placeOn(const QList<QRect> &screens, const QRect &area, QSize minimu
         .position = screen ? std::optional(area.topLeft()) : std::nullopt };
 }
 
-QSize firstSizeOn(const QRect &screen, QSize usual, QSize minimum)
+QSize roomOn(const QRect &screen)
 {
     constexpr int titleBar = 40; // of the desktops with high ones
-    const QSize room = screen.size() - QSize(0, titleBar);
-    const bool hasRoom = room.width() >= minimum.width() && room.height() >= minimum.height();
-    return hasRoom ? usual.boundedTo(room) : usual;
+    return screen.size() - QSize(0, titleBar);
 }

@@ -35,7 +35,5 @@ struct WindowPlace {
 /// by. The size is at most that of the screen, but never below `minimum`.
 [[nodiscard]] WindowPlace placeOn(const QList<QRect> &screens, const QRect &area, QSize minimum);
 
-/// How large a window begins that has no place yet: `usual`, as far as `screen` has room for it
-/// under a title bar. Where there is none even for `minimum`, `usual` as it is, for nothing would
-/// be won.
-[[nodiscard]] QSize firstSizeOn(const QRect &screen, QSize usual, QSize minimum);
+/// The largest window that is seen as a whole on a screen, under its title bar.
+[[nodiscard]] QSize roomOn(const QRect &screen);

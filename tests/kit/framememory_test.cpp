@@ -38,8 +38,9 @@ protected:
                 id: root
                 property size usual: Qt.size(400, 300)
                 property bool placed: memory.placed
-                width: memory.size(usual, Qt.size(120, 100)).width
-                height: memory.size(usual, Qt.size(120, 100)).height
+                property size room: memory.room
+                width: memory.size(usual).width
+                height: memory.size(usual).height
                 minimumWidth: 120
                 minimumHeight: 100
                 FrameMemory { id: memory; name: "test"; window: root }
@@ -73,8 +74,12 @@ TEST_F(FrameMemoryTest, BeginsWithTheUsualSize)
 TEST_F(FrameMemoryTest, BeginsNoLargerThanTheScreen)
 {
     const auto window = open();
+    const QSize screen = window->screen()->availableSize();
     window->setProperty("usual", QSizeF(9000, 300));
-    EXPECT_EQ(window->size(), QSize(window->screen()->availableSize().width(), 300));
+    EXPECT_EQ(window->size(), QSize(screen.width(), 300));
+    window->setProperty("usual", QSizeF(400, 9000));
+    EXPECT_EQ(window->size(), QSize(400, screen.height() - 40)); // its title bar is to be seen too
+    EXPECT_EQ(window->property("room").toSizeF(), QSizeF(screen - QSize(0, 40)));
 }
 
 TEST_F(FrameMemoryTest, BringsSizeAndPlaceBack)

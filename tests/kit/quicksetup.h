@@ -14,7 +14,7 @@ public:
     /// Comes before the application object, which reads the environment.
     QuickSetup()
     {
-        setUnlessSet("QT_QPA_PLATFORM", "offscreen");
+        setUnlessSet("QT_QPA_PLATFORM", HV_OFFSCREEN);
         setUnlessSet("QT_QUICK_BACKEND", "software");
         // As the program does: one design point is one logical pixel.
         qputenv("QT_FONT_DPI", "72");

@@ -74,19 +74,8 @@ TEST(WindowPlace, IsNoLargerThanTheScreenAndNoSmallerThanTheLayout)
     EXPECT_EQ(placeOn({ QRect(0, 0, 640, 480) }, QRect(0, 0, 1440, 948), kMinimum).size, kMinimum);
 }
 
-TEST(FirstSize, IsTheUsualOneAsFarAsThereIsRoomUnderATitleBar)
+TEST(WindowRoom, IsTheScreenUnderATitleBar)
 {
-    const QSize usual(1440, 948);
-    EXPECT_EQ(firstSizeOn(QRect(0, 0, 1920, 1080), usual, kMinimum), usual);
-    EXPECT_EQ(firstSizeOn(QRect(0, 0, 1440, 988), usual, kMinimum), usual);
-    EXPECT_EQ(firstSizeOn(QRect(0, 0, 1440, 987), usual, kMinimum), QSize(1440, 947));
-    EXPECT_EQ(firstSizeOn(QRect(0, 0, 1024, 700), usual, kMinimum), QSize(1024, 660));
-}
-
-TEST(FirstSize, StaysAsItIsWhereNotEvenTheSmallestWindowFits)
-{
-    const QSize usual(1440, 948);
-    EXPECT_EQ(firstSizeOn(QRect(QPoint(), kMinimum + QSize(0, 40)), usual, kMinimum), kMinimum);
-    EXPECT_EQ(firstSizeOn(QRect(QPoint(), kMinimum + QSize(0, 39)), usual, kMinimum), usual);
-    EXPECT_EQ(firstSizeOn(QRect(QPoint(), kMinimum + QSize(-1, 40)), usual, kMinimum), usual);
+    EXPECT_EQ(roomOn(QRect(0, 0, 1920, 1080)), QSize(1920, 1040));
+    EXPECT_EQ(roomOn(QRect(-800, 32, 800, 568)), QSize(800, 528));
 }

@@ -12,10 +12,11 @@ T.ApplicationWindow {
     id: root
 
     title: CNUI.appName
-    width: memory.size(metrics.usual, metrics.smallest).width
-    height: memory.size(metrics.usual, metrics.smallest).height
-    minimumWidth: metrics.smallest.width
-    minimumHeight: metrics.smallest.height
+    width: memory.size(metrics.usual).width
+    height: memory.size(metrics.usual).height
+    // On a screen that is smaller still the camera scrolls, and nothing of it lies out of reach.
+    minimumWidth: Math.min(metrics.smallest.width, memory.room.width)
+    minimumHeight: Math.min(metrics.smallest.height, memory.room.height)
     color: CNUI.theme.bg
 
     QtObject {

@@ -11,8 +11,8 @@ CNWindow {
 
     title: qsTr("%1 Help").arg(CNUI.appName)
     placed: memory.placed
-    width: memory.size(metrics.usual, metrics.smallest).width
-    height: memory.size(metrics.usual, metrics.smallest).height
+    width: memory.size(metrics.usual).width
+    height: memory.size(metrics.usual).height
     minSize: Qt.size(680, 440)
     minimumWidth: metrics.smallest.width
     minimumHeight: metrics.smallest.height

@@ -44,14 +44,17 @@ bool FrameMemory::isPlaced() const
     return frame && place(*frame).position;
 }
 
-QSizeF FrameMemory::size(QSizeF usual, QSizeF smallest) const
+QSizeF FrameMemory::room() const
 {
-    if (const std::optional<WindowFrame> frame = stored())
-        return place(*frame).size.toSizeF();
-    const QScreen *screen = QGuiApplication::primaryScreen();
-    if (!screen)
-        return usual;
-    return firstSizeOn(screen->availableGeometry(), usual.toSize(), smallest.toSize()).toSizeF();
+    constexpr QSizeF endless(1'000'000, 1'000'000); // where nothing is shown, nothing is cut
+    const QScreen *screen = m_window ? m_window->screen() : QGuiApplication::primaryScreen();
+    return screen ? roomOn(screen->availableGeometry()).toSizeF() : endless;
+}
+
+QSizeF FrameMemory::size(QSizeF usual) const
+{
+    const std::optional<WindowFrame> frame = stored();
+    return frame ? place(*frame).size.toSizeF() : usual.boundedTo(room());
 }
 
 void FrameMemory::componentComplete()
@@ -64,6 +67,7 @@ void FrameMemory::componentComplete()
             m_window->setPosition(*position);
         m_maximizes = frame->maximized;
     }
+    connect(m_window, &QWindow::screenChanged, this, &FrameMemory::roomChanged);
     const auto settle = [this] { m_settled.start(); };
     connect(m_window, &QWindow::xChanged, this, settle);
     connect(m_window, &QWindow::yChanged, this, settle);

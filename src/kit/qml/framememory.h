@@ -11,7 +11,7 @@
 /// "crvn.frame.<name>". Stands in the window:
 ///
 ///     FrameMemory { id: memory; name: "main"; window: root }
-///     width: memory.size(usual, smallest).width
+///     width: memory.size(usual).width
 ///
 /// The size has to be asked for, so that nothing is laid out in the usual one first; the place is
 /// taken before the window is shown.
@@ -24,15 +24,20 @@ class FrameMemory : public QObject, public QQmlParserStatus
     Q_PROPERTY(QQuickWindow *window MEMBER m_window REQUIRED)
     /// Whether the window has the place of an earlier run.
     Q_PROPERTY(bool placed READ isPlaced CONSTANT)
+    /// The largest window that is seen as a whole on the screen where this one stands.
+    Q_PROPERTY(QSizeF room READ room NOTIFY roomChanged)
 public:
     explicit FrameMemory(QObject *parent = nullptr);
     ~FrameMemory() override;
 
     [[nodiscard]] bool isPlaced() const;
+    [[nodiscard]] QSizeF room() const;
 
-    /// The remembered size or else `usual`, as far as the screens have room for it; `smallest` is
-    /// the least that the window can have.
-    Q_INVOKABLE [[nodiscard]] QSizeF size(QSizeF usual, QSizeF smallest) const;
+    /// The remembered size or else `usual`, as far as the screens have room for it.
+    Q_INVOKABLE [[nodiscard]] QSizeF size(QSizeF usual) const;
+
+Q_SIGNALS:
+    void roomChanged();
 
 protected:
     void classBegin() override { }
