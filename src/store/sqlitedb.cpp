@@ -93,7 +93,10 @@ void distrust(sqlite3 *handle)
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_limit(handle, SQLITE_LIMIT_ATTACHED, 0);
     sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, kLongestValue);
-    sqlite3_hard_heap_limit64(kMostMemory);
+    // One for the process: a lower one that somebody has set stays.
+    if (const sqlite3_int64 limit = sqlite3_hard_heap_limit64(-1);
+        limit == 0 || limit > kMostMemory)
+        sqlite3_hard_heap_limit64(kMostMemory);
     sqlite3_progress_handler(
         handle, kMostSteps, [](void *) { return 1; }, nullptr);
     sqlite3_exec(handle,
