@@ -47,7 +47,7 @@ std::optional<WindowFrame> WindowFrame::fromText(const QString &text)
     for (size_t i = 0; i < numbers.size(); ++i) {
         bool isNumber = false;
         numbers[i] = words.at(qsizetype(i)).toInt(&isNumber);
-        if (!isNumber || std::abs(numbers[i]) > kFarthest)
+        if (!isNumber || numbers[i] < -kFarthest || numbers[i] > kFarthest)
             return std::nullopt;
     }
     frame.area = QRect(numbers[0], numbers[1], numbers[2], numbers[3]);
