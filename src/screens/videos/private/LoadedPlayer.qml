@@ -1,9 +1,6 @@
-// The module isn't there where the linter looks.
-// qmllint disable
 import Halvorin.Player
 
 /*! The player. The module that it needs may not be installed: whoever loads this file is told so. Like
     all others it is compiled with the program, or the engine would leave a cache in the user's home. */
 YouTubePlayerView {
 }
-// qmllint enable
