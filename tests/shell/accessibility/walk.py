@@ -14,6 +14,9 @@ import pyatspi
 
 PROGRAM = sys.argv.pop(1)
 PATIENCE = 20  # s
+# Qt answers an action when all that follows from it is done, and a whole screen may follow. How long
+# that takes isn't asked here, and the library's own 0.8 s is short for a machine at work.
+pyatspi.Atspi.set_timeout(1000 * PATIENCE, 1000 * PATIENCE)
 
 # What a person can do something with, and so has to be able to ask for by name.
 CONTROLS = {
