@@ -41,6 +41,7 @@ protected:
         ASSERT_TRUE(m_edit) << qPrintable(component.errorString());
         flow.setGlow(kGlow);
         flow.setDocument(m_edit->property("textDocument").value<QQuickTextDocument *>());
+        flow.componentComplete();
     }
 
     [[nodiscard]] const QTextDocument &document() const { return *flow.document()->textDocument(); }
@@ -140,6 +141,17 @@ TEST_F(RichTextFlowTest, OfNoTextIsEmpty)
     EXPECT_EQ(document().toPlainText(), QString());
     EXPECT_TRUE(flow.dots().isEmpty());
     EXPECT_TRUE(flow.plates().isEmpty());
+}
+
+TEST_F(RichTextFlowTest, LaysNothingOutBeforeItHasAllItsProperties)
+{
+    RichTextFlow another;
+    another.setDocument(flow.document());
+    another.setText(u"Light goes by area."_s);
+    another.setSize(12);
+    EXPECT_EQ(texts(), QStringList(QString()));
+    another.componentComplete();
+    EXPECT_EQ(texts(), QStringList(u"Light goes by area."_s));
 }
 
 TEST_F(RichTextFlowTest, HasABlockForEachLineThatIsNotBlank)
@@ -470,6 +482,7 @@ TEST(RichTextFlowAlone, WaitsForItsDocument)
 {
     RichTextFlow flow;
     flow.setText(u"• one\n> careful"_s);
+    flow.componentComplete();
     EXPECT_EQ(flow.size(), 14);
     EXPECT_TRUE(flow.dots().isEmpty());
     EXPECT_TRUE(flow.plates().isEmpty());
@@ -487,6 +500,7 @@ TEST(RichTextFlowAlone, OutlivesItsDocument)
     RichTextFlow flow;
     flow.setDocument(edit->property("textDocument").value<QQuickTextDocument *>());
     flow.setText(u"• one"_s);
+    flow.componentComplete();
     ASSERT_EQ(flow.dots().size(), 1);
     edit.reset();
     EXPECT_EQ(flow.document(), nullptr);

@@ -204,9 +204,15 @@ void RichTextFlow::setSize(qreal size)
     fill();
 }
 
+void RichTextFlow::componentComplete()
+{
+    m_isComplete = true;
+    fill();
+}
+
 void RichTextFlow::fill()
 {
-    if (!m_document)
+    if (!m_document || !m_isComplete)
         return;
     {
         const QScopedValueRollback filling(m_filling, true);

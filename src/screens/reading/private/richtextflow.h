@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QColor>
 #include <QObject>
+#include <QQmlParserStatus>
 #include <QQuickTextDocument>
 #include <QRectF>
 #include <QVariantList>
@@ -33,11 +34,12 @@ public:
 ///
 /// A figure such as "f/2.8" stays on one line. What holds it together is a character without width
 /// that is in the document and nowhere else: what is copied are the words of the text, as plain
-/// text.
-class RichTextFlow : public QObject
+/// text. Nothing is laid out before all properties have their first values.
+class RichTextFlow : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
     QML_ELEMENT
+    Q_INTERFACES(QQmlParserStatus)
     Q_PROPERTY(QQuickTextDocument *document READ document WRITE setDocument NOTIFY documentChanged)
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
     Q_PROPERTY(QColor glow READ glow WRITE setGlow NOTIFY glowChanged)
@@ -67,6 +69,9 @@ public:
     [[nodiscard]] QVariantList bars() const { return m_bars; }
     [[nodiscard]] QVariantList blocks() const { return m_blocks; }
 
+    void classBegin() override { }
+    void componentComplete() override;
+
 Q_SIGNALS:
     void documentChanged();
     void textChanged();
@@ -88,5 +93,6 @@ private:
     QVariantList m_plates;
     QVariantList m_bars;
     QVariantList m_blocks;
+    bool m_isComplete = false;
     bool m_filling = false;
 };
