@@ -22,17 +22,28 @@ HVScroll {
             c: root.c
         }
     }
-    // Below the display's edge at first, so that nobody waits for the programs.
+    // Below the display's edge at first, so that nobody waits for the programs: a kind at a time,
+    // with frames between them.
+    Timer {
+        id: turns
+        property int passed: 0
+        interval: 16
+        repeat: true
+        running: CNUI.animated && turns.passed < kinds.count
+        onTriggered: ++turns.passed
+    }
     Repeater {
+        id: kinds
         model: SoftwareKindList {}
         delegate: Loader {
             id: group
 
+            required property int index
             required property string kind
             required property string caption
 
             width: parent?.width ?? 0
-            asynchronous: CNUI.animated
+            active: !CNUI.animated || group.index < turns.passed
             // Qt 6.4's Loader can't create components of a file that binds them, so these reach out
             // unbound.
             // qmllint disable unqualified

@@ -53,6 +53,14 @@ TestCase {
         verify(film.mapToItem(view, 0, 0).x < digital.mapToItem(view, 0, 0).x);
     }
 
+    function test_the_programs_come_after_the_stages() {
+        World.begin("library");
+        view = createTemporaryObject(views, test);
+        verify(shows("1. Load"));
+        verify(!shows("RAW EDITOR"));
+        tryVerify(() => shows("RAW EDITOR") && shows("CATALOG"));
+    }
+
     function test_without_stages_the_header_stands_alone() {
         open("empty");
         for (const words of ["STAGE", "FILM", "DIGITAL"])
