@@ -124,13 +124,15 @@ int main(int argc, char **argv)
         };
         reportWarnings([&](const QString &text) { findings.add(u"Warning: "_s + text, during()); });
         int stalls = 0;
-        const auto tellOfStall = [&](qint64 stall, qint64 working, qint64 inLine) {
+        const auto tellOfStall = [&](qint64 stall, qint64 working, qint64 inLine, qint64 stolen) {
             ++stalls;
             if (kIsFast)
-                findings.add(u"The main thread didn't answer for %1 ms. It worked for %2 ms, and "
-                             "stood in line for a processor for %3 ms."_s.arg(stall)
+                findings.add(u"The main thread didn't answer for %1 ms. It worked for %2 ms and "
+                             "stood in line for a processor for %3 ms; processors were lent "
+                             "to others for %4 ms."_s.arg(stall)
                                  .arg(working)
-                                 .arg(inLine),
+                                 .arg(inLine)
+                                 .arg(stolen),
                     during());
         };
         QObject::connect(&heartbeat, &Heartbeat::stalled, &heartbeat, tellOfStall);

@@ -228,7 +228,7 @@ void Monkey::pressControl()
              .arg(middle.x())
              .arg(middle.y()));
     if (QRectF(QPointF(), window()->size()).contains(middle) && upTo(3) != 0) {
-        QTest::mouseClick(window(), Qt::LeftButton, {}, middle.toPoint());
+        QTest::mouseClick(window(), Qt::LeftButton, {}, inside(window(), middle.toPoint()));
     } else {
         control->forceActiveFocus(Qt::TabFocusReason);
         QTest::keyClick(window(), Qt::Key_Space);
@@ -242,10 +242,13 @@ void Monkey::turnWheel()
     const int step = (upTo(1) == 0 ? 1 : -1) * (upTo(2) == 0 ? 15 : 120);
     const auto modifiers = upTo(9) == 0 ? Qt::ControlModifier : Qt::NoModifier;
     note(u"wheel %1 times %2 at %3,%4"_s.arg(turns).arg(step).arg(place.x()).arg(place.y()));
+    // One after the other, as from a finger: a wheel that is spun gives some hundred a second.
     for (int turn = 0; turn < turns; ++turn) {
-        QWheelEvent event(place, window()->mapToGlobal(place), {}, { 0, step }, Qt::NoButton,
-            modifiers, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(window(), &event);
+        QTimer::singleShot(10 * turn, this, [this, place, step, modifiers] {
+            QWheelEvent event(place, window()->mapToGlobal(place), {}, { 0, step }, Qt::NoButton,
+                modifiers, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(window(), &event);
+        });
     }
 }
 

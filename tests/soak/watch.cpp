@@ -7,6 +7,8 @@
 #include <ctime>
 #include <optional>
 
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -43,12 +45,15 @@ double median(std::vector<double> values)
 
 Heartbeat::Heartbeat()
     : m_schedule(u"/proc/thread-self/schedstat"_s)
+    , m_processors(u"/proc/stat"_s)
 {
     static_cast<void>(m_schedule.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
+    static_cast<void>(m_processors.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
     m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_timer, &QTimer::timeout, this, &Heartbeat::beat);
     m_inLine = inLine();
     m_worked = worked();
+    m_stolen = stolen();
     m_sinceBeat.start();
     m_timer.start(kBeat);
     m_hangWatch = std::thread([this] {
@@ -79,13 +84,17 @@ void Heartbeat::beat()
     const qint64 passed = m_sinceBeat.restart() - kBeat;
     const qint64 waited = inLine() - m_inLine;
     const qint64 working = worked() - m_worked;
+    const qint64 lent = stolen() - m_stolen;
     m_inLine += waited;
     m_worked += working;
-    const bool isStarved = waited > passed / 4;
-    const qint64 stall = isStarved ? std::min(working, passed) : passed - waited;
+    m_stolen += lent;
+    const qint64 lost = waited + lent;
+    const bool isStarved = lost > passed / 4;
+    // A thread's work goes on by the clock while its processor is lent.
+    const qint64 stall = isStarved ? std::min(working, passed) - lent : passed - lost;
     m_longest = std::max(m_longest, stall);
     if (stall > kStall)
-        Q_EMIT stalled(stall, working, waited);
+        Q_EMIT stalled(stall, working, waited, lent);
 }
 
 // The second figure of the kernel's three, in ns.
@@ -93,6 +102,15 @@ qint64 Heartbeat::inLine() const
 {
     m_schedule.seek(0);
     return m_schedule.readAll().split(' ').value(1).toLongLong() / 1'000'000;
+}
+
+// The eighth figure of all processors together, in ticks: "cpu  …".
+qint64 Heartbeat::stolen() const
+{
+    static const qint64 perSecond = ::sysconf(_SC_CLK_TCK);
+    m_processors.seek(0);
+    const QByteArray all = m_processors.readLine(200).simplified();
+    return all.split(' ').value(8).toLongLong() * 1000 / perSecond;
 }
 
 qint64 Heartbeat::worked()

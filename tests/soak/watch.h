@@ -15,9 +15,9 @@
 #include <vector>
 
 /// Looks, from within the event loop, at how late the loop is. A stall is the time between two
-/// looks without that in which the thread stood in line for a processor, which says something about
-/// the machine only. Where it stood there for long, so did the threads that it waits for, and
-/// nothing but its own work counts.
+/// looks without that which says something about the machine only: in which the thread stood in
+/// line for a processor, or a virtual machine's processors were lent to others. Where that was
+/// long, it was so for the threads that this one waits for, and nothing but its own work counts.
 class Heartbeat : public QObject
 {
     Q_OBJECT
@@ -31,18 +31,21 @@ public:
 
 Q_SIGNALS:
     /// All in ms.
-    void stalled(qint64 stall, qint64 working, qint64 inLine);
+    void stalled(qint64 stall, qint64 working, qint64 inLine, qint64 stolen);
 
 private:
     void beat();
     [[nodiscard]] qint64 inLine() const;  // ms since the thread began
     [[nodiscard]] static qint64 worked(); // likewise
+    [[nodiscard]] qint64 stolen() const;  // ms of all processors since the machine began
 
     QTimer m_timer;
     QElapsedTimer m_sinceBeat;
     mutable QFile m_schedule;
+    mutable QFile m_processors;
     qint64 m_inLine = 0;
     qint64 m_worked = 0;
+    qint64 m_stolen = 0;
     qint64 m_longest = 0;
     std::atomic<qint64> m_beats = 0;
     std::atomic<bool> m_ends = false;
