@@ -46,6 +46,7 @@ FocusScope {
     Component {
         id: quiz
         QuizView {
+            focus: true
             c: root.c
             moduleID: reading.moduleID
         }

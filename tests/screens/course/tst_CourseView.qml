@@ -227,6 +227,16 @@ TestCase {
         compare(part("QuizView").moduleID, "time");
     }
 
+    function test_what_is_opened_from_an_introduction_by_key_has_the_keyboard() {
+        for (const [name, page] of [["Lesson 2: A lens in the hole, 5 min", "LessonReader"], ["Take the module quiz (2 questions)", "QuizView"]]) {
+            AppModel.openModule("light");
+            Find.button(part("ModuleIntro"), name).forceActiveFocus(Qt.TabFocusReason);
+            keyClick(Qt.Key_Return);
+            compare(pane(), page);
+            verify(part(page).activeFocus, page);
+        }
+    }
+
     function test_answers_the_keyboard() {
         row("Light and the camera").forceActiveFocus(Qt.TabFocusReason);
         keyClick(Qt.Key_Space);
