@@ -12,6 +12,7 @@
 
 #include <QClipboard>
 #include <QFile>
+#include <QPointer>
 #include <QQuickWindow>
 #include <QtQml/qqml.h>
 
@@ -264,11 +265,13 @@ QString QuickWorld::day(int daysAgo) const
     return DateFormatter().day(QDateTime::currentDateTimeUtc().addDays(-daysAgo));
 }
 
-void QuickWorld::answerSavePanel(const QString &name)
+void QuickWorld::answerSavePanel(const QString &name, QObject *gone)
 {
-    model().setSavePanel(
-        [path = s_world->path(name), isAnswered = !name.isEmpty()](
-            const QString &) { return isAnswered ? std::optional(path) : std::nullopt; });
+    model().setSavePanel([path = s_world->path(name), isAnswered = !name.isEmpty(),
+                             gone = QPointer(gone)](const QString &) {
+        delete gone;
+        return isAnswered ? std::optional(path) : std::nullopt;
+    });
 }
 
 QString QuickWorld::text(const QString &name) const

@@ -72,8 +72,8 @@ public:
     Q_INVOKABLE [[nodiscard]] QString day(int daysAgo = 0) const;
 
     /// The next save panel is answered with a file of this name in a folder of the test's own, or
-    /// canceled if there is none; text() is what stands there then.
-    Q_INVOKABLE void answerSavePanel(const QString &name);
+    /// canceled if there is none; text() is what stands there then. While it is open, `gone` goes.
+    Q_INVOKABLE void answerSavePanel(const QString &name, QObject *gone = nullptr);
     Q_INVOKABLE [[nodiscard]] QString text(const QString &name) const;
     Q_INVOKABLE [[nodiscard]] QString exportText() const;
 

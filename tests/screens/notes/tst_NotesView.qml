@@ -166,12 +166,22 @@ TestCase {
         compare(World.noteTarget(), "general general");
     }
 
+    function test_exports_also_if_the_screen_is_left_meanwhile() {
+        World.begin();
+        World.addNote("general", "general", "A note");
+        open();
+        World.answerSavePanel("Halvorin notes.txt", page);
+        mouseClick(button("Export"));
+        tryVerify(() => World.text("Halvorin notes.txt").includes("A note"));
+    }
+
     function test_exports_to_the_file_that_the_user_names() {
         World.begin();
         World.addNote("lesson", "l1", "A note ✓");
         World.answerSavePanel("Halvorin notes.txt");
         open();
         mouseClick(button("Export"));
+        tryVerify(() => World.text("Halvorin notes.txt") !== "");
         // The second line tells the minute.
         const lines = text => text.split("\n").filter((line, i) => i !== 1);
         compare(lines(World.text("Halvorin notes.txt")), lines(World.exportText()));

@@ -56,7 +56,8 @@ Column {
                 prominent: true
                 symbol: "square.and.arrow.up"
                 label: qsTr("Export")
-                onClicked: AppModel.exportNotes()
+                // Later, as the panel runs a loop of its own, in which this screen may be left.
+                onClicked: Qt.callLater(AppModel.exportNotes)
                 Keys.onTabPressed: root.leaves(true)
             }
         }
