@@ -272,10 +272,23 @@ TestCase {
     function test_tells_assistive_technology_what_is_picked() {
         take("light");
         press("The hole");
-        compare(button("The hole").Accessible.role, Accessible.RadioButton);
-        compare(button("The hole").Accessible.name, "The hole");
-        verify(button("The hole").Accessible.checked);
-        verify(!button("The wall").Accessible.checked);
+        // The template tells it, as soon as somebody listens.
+        for (let i = 0; i < 2; ++i) {
+            compare(button("The hole").Accessible.name, "The hole");
+            verify(button("The hole").checkable && button("The hole").checked);
+            verify(button("The wall").checkable && !button("The wall").checked);
+            press("The hole"); // once more changes nothing
+        }
+        press("The wall");
+        verify(button("The wall").checked);
+        verify(!button("The hole").checked);
+    }
+
+    function test_tells_assistive_technology_which_question_an_option_answers() {
+        take("light");
+        const card = Find.first(page, item => item.prompt !== undefined && item.number === 1);
+        compare(card.Accessible.role, Accessible.Grouping);
+        compare(card.Accessible.name, "1. " + card.prompt);
     }
 
     function test_holds_its_column_to_860() {

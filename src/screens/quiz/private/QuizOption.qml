@@ -39,9 +39,11 @@ Pressable {
             root.chosen();
     }
 
-    Accessible.role: Accessible.RadioButton
+    // As in a GripButtonStyle: the template writes over what stands in Accessible.
+    checkable: true
+    autoExclusive: true
+    checked: root.picked
     Accessible.checkable: true
-    Accessible.checked: root.picked
     Accessible.description: root.verdict
     Accessible.onToggleAction: root.chosen()
     Accessible.onPressAction: root.chosen()

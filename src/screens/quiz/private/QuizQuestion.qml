@@ -33,6 +33,10 @@ OLEDCard {
         root.quiz.pick(root.index, option);
     }
 
+    // Who comes to an option by Tab is told what it answers.
+    Accessible.role: Accessible.Grouping
+    Accessible.name: root.number + ". " + root.prompt
+
     Column {
         width: parent.width
         spacing: 8
