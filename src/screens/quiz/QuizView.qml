@@ -112,6 +112,7 @@ HVScroll {
             visible: taking.reviewed
             c: root.c
             label: qsTr("Try again")
+            Accessible.description: count.text // It has the focus when the score comes.
             onClicked: root.tryAgain()
         }
     }

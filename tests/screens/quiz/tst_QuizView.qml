@@ -284,6 +284,14 @@ TestCase {
         verify(!button("The hole").checked);
     }
 
+    function test_tells_assistive_technology_the_score_with_the_button_that_has_the_focus() {
+        take("light");
+        answerAll("The hole", "On its feet");
+        press("Check my answers");
+        verify(button("Try again").activeFocus);
+        compare(button("Try again").Accessible.description, "Score: 1 / 2");
+    }
+
     function test_tells_assistive_technology_which_question_an_option_answers() {
         take("light");
         const card = Find.first(page, item => item.prompt !== undefined && item.number === 1);
