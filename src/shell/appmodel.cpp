@@ -155,6 +155,11 @@ void AppModel::newNote(const QString &type, const QString &id)
 
 void AppModel::exportNotes()
 {
+    QMetaObject::invokeMethod(this, &AppModel::askAndExport, Qt::QueuedConnection);
+}
+
+void AppModel::askAndExport()
+{
     const UserStore *store = UserStore::shared();
     if (!store || !m_savePanel)
         return;

@@ -174,7 +174,8 @@ public:
     Q_INVOKABLE void newNote(const QString &type, const QString &id);
 
     /// Writes all that the store holds as a text into a file of the user's choice; a failure
-    /// becomes the message. Nothing without a store or without a panel.
+    /// becomes the message. Nothing without a store or without a panel. The panel comes when the
+    /// caller is done: it runs an event loop, in which the screen with the caller's button may go.
     Q_INVOKABLE void exportNotes();
 
     /// The platform's own dialog, which knows of windows and is set by whoever has one.
@@ -201,6 +202,7 @@ Q_SIGNALS:
     void simChanged();
 
 private:
+    void askAndExport();
     template <typename T>
     void set(T &field, const T &value, void (AppModel::*changed)())
     {

@@ -7,6 +7,8 @@
 #include "store/storetesting.h"
 #include "support/testcourse.h"
 
+#include <QCoreApplication>
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -818,55 +820,66 @@ struct Panel {
     }
 };
 
+class AppModelExport : public AppModelTest
+{
+protected:
+    // With what comes of it when the caller is done.
+    void exportNotes()
+    {
+        model.exportNotes();
+        QCoreApplication::sendPostedEvents(&model);
+    }
+};
+
 } // namespace
 
-TEST_F(AppModelTest, ExportWritesTheStoreToTheFileThatTheUserNames)
+TEST_F(AppModelExport, WritesTheStoreToTheFileThatTheUserNames)
 {
     Note note{ .targetType = u"lesson"_s, .targetID = u"a1-l1"_s, .body = u"déjà ✓"_s };
     store().save(note);
     Panel panel{ .answer = folder.path(u"My own name.txt"_s), .asked = {} };
     model.setSavePanel(panel.function());
-    model.exportNotes();
+    exportNotes();
     EXPECT_EQ(panel.asked, QStringList{ u"Halvorin notes.txt"_s });
     EXPECT_EQ(
         QString::fromUtf8(fileBytes(*panel.answer)), store().exportText(ContentLibrary::shared()));
     EXPECT_FALSE(model.message());
 }
 
-TEST_F(AppModelTest, ExportThatIsCanceledWritesNothingAndKeepsTheMessage)
+TEST_F(AppModelExport, ThatIsCanceledWritesNothingAndKeepsTheMessage)
 {
     model.setMessage(u"An earlier one"_s);
     const Fingerprint before = fingerprint(folder.path());
     Panel panel;
     model.setSavePanel(panel.function());
-    model.exportNotes();
+    exportNotes();
     EXPECT_EQ(panel.asked.size(), 1);
     EXPECT_EQ(fingerprint(folder.path()), before);
     EXPECT_EQ(model.message(), u"An earlier one"_s);
 }
 
-TEST_F(AppModelTest, ExportSaysWhyTheFileCouldNotBeWritten)
+TEST_F(AppModelExport, SaysWhyTheFileCouldNotBeWritten)
 {
     Panel panel{ .answer = folder.path(u"no/such/folder/notes.txt"_s), .asked = {} };
     model.setSavePanel(panel.function());
-    model.exportNotes();
+    exportNotes();
     ASSERT_TRUE(model.message());
     EXPECT_TRUE(model.message()->startsWith(u"The notes could not be saved: "_s));
     EXPECT_GT(model.message()->size(), u"The notes could not be saved: "_s.size());
 }
 
-TEST_F(AppModelTest, ExportWithoutAStoreDoesNotEvenAsk)
+TEST_F(AppModelExport, WithoutAStoreDoesNotEvenAsk)
 {
     UserStore::setShared(nullptr);
     Panel panel{ .answer = folder.path(u"notes.txt"_s), .asked = {} };
     model.setSavePanel(panel.function());
-    model.exportNotes();
+    exportNotes();
     EXPECT_TRUE(panel.asked.isEmpty());
     EXPECT_FALSE(model.message());
 }
 
-TEST_F(AppModelTest, ExportWithoutAPanelDoesNothing)
+TEST_F(AppModelExport, WithoutAPanelDoesNothing)
 {
-    model.exportNotes();
+    exportNotes();
     EXPECT_FALSE(model.message());
 }

@@ -43,10 +43,10 @@ HVScroll {
             required property string caption
 
             width: parent?.width ?? 0
-            active: !CNUI.animated || group.index < turns.passed
             // Qt 6.4's Loader can't create components of a file that binds them, so these reach out
             // unbound.
             // qmllint disable unqualified
+            active: !CNUI.animated || group.index < turns.passed
             sourceComponent: SoftwareGroup {
                 width: group.width
                 c: root.c

@@ -56,8 +56,7 @@ Column {
                 prominent: true
                 symbol: "square.and.arrow.up"
                 label: qsTr("Export")
-                // Later, as the panel runs a loop of its own, in which this screen may be left.
-                onClicked: Qt.callLater(AppModel.exportNotes)
+                onClicked: AppModel.exportNotes()
                 Keys.onTabPressed: root.leaves(true)
             }
         }
