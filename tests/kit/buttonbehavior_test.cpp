@@ -6,6 +6,8 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -37,6 +39,14 @@ protected:
     {
         QKeyEvent event(type, key, Qt::NoModifier, {}, held == Held::Yes);
         QCoreApplication::sendEvent(button.get(), &event);
+    }
+    /// As if the pointer or the focus came to a button, or left it.
+    static void setOrnament(QQuickItem *of, const char *shows, bool on)
+    {
+        for (QObject *child : of->children()) {
+            if (child->property(shows).isValid())
+                child->setProperty(shows, on);
+        }
     }
     [[nodiscard]] int clicks() const { return button->property("clicks").toInt(); }
 
@@ -90,13 +100,27 @@ TEST_F(ButtonBehavior, GoesWithItsRingAndSaysNothing)
     const std::unique_ptr<QObject> around(component.create());
     auto *inside = around->property("button").value<QQuickItem *>();
     ASSERT_NE(inside, nullptr) << component.errorString().toStdString();
-    for (QObject *child : inside->children()) {
-        if (child->property("showsRing").isValid())
-            child->setProperty("showsRing", true);
-    }
+    setOrnament(inside, "showsRing", true);
     ASSERT_FALSE(inside->childItems().isEmpty());
     // when
     delete inside;
     // then
     EXPECT_EQ(warnings, 0);
+}
+
+// A window that draws nothing for the moment doesn't notice that the pointer is no longer over what
+// has left it.
+TEST_F(ButtonBehavior, OutsideOfAWindowTellsNoTip)
+{
+    constexpr int tipWaits = 600;
+    const QQuickWindow window;
+    button->setProperty("tip", u"Opens the course"_s);
+    for (QQuickItem *before : { static_cast<QQuickItem *>(nullptr), window.contentItem() }) {
+        button->setParentItem(before);
+        setOrnament(button.get(), "showsTip", true);
+        button->setParentItem(nullptr);
+        QTest::qWait(tipWaits + 100);
+        setOrnament(button.get(), "showsTip", false);
+        EXPECT_EQ(warnings, 0) << (before ? "has left its window" : "has had none");
+    }
 }

@@ -146,6 +146,17 @@ TestCase {
         tryVerify(() => tips().length === 0);
     }
 
+    function test_tells_its_tip_in_the_window_into_which_it_comes() {
+        failOnWarning(/./);
+        button.label = "Open";
+        button.tip = "Opens the course";
+        mouseMove(button, 50, 20);
+        button.parent = null;
+        verify(button.hovered);
+        button.parent = test;
+        tryVerify(() => tips().length === 1);
+    }
+
     function test_is_as_large_as_its_content_and_padding() {
         const plain = createTemporaryQmlObject("import QtQuick; import Halvorin.Kit; Pressable { horizontalPadding: 14; verticalPadding: 7; contentItem: Item { implicitWidth: 50; implicitHeight: 20 } }", test);
         compare(plain.implicitWidth, 78);

@@ -22,7 +22,7 @@ void ButtonBehavior::setShowsTip(bool shows)
     if (m_showsTip == shows)
         return;
     m_showsTip = shows;
-    show(m_tip, shows, u"CNTip.qml"_s);
+    showTip();
     Q_EMIT showsTipChanged();
 }
 
@@ -31,6 +31,7 @@ void ButtonBehavior::componentComplete()
     if (QQuickItem *item = button()) {
         item->setCursor(Qt::PointingHandCursor);
         item->installEventFilter(this);
+        connect(item, &QQuickItem::windowChanged, this, &ButtonBehavior::showTip);
         // Sooner than QML hears of it: a ring without a button would ask nothing for its color.
         connect(item, &QObject::destroyed, this, [this] {
             m_ring.reset();
@@ -59,6 +60,11 @@ bool ButtonBehavior::eventFilter(QObject *watched, QEvent *event)
     default:
         return QObject::eventFilter(watched, event);
     }
+}
+
+void ButtonBehavior::showTip()
+{
+    show(m_tip, m_showsTip && button() && button()->window(), u"CNTip.qml"_s);
 }
 
 void ButtonBehavior::show(std::unique_ptr<QObject> &ornament, bool shows, const QString &file)

@@ -38,6 +38,9 @@ protected:
 
 private:
     [[nodiscard]] QQuickItem *button() const { return qobject_cast<QQuickItem *>(parent()); }
+    /// In the window that the button is in. A screen that is being left takes its buttons out of
+    /// the window before they hear that the pointer is elsewhere.
+    void showTip();
     /// Makes or takes away what the file of this name describes.
     void show(std::unique_ptr<QObject> &ornament, bool shows, const QString &file);
 
