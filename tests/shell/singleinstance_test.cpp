@@ -319,7 +319,8 @@ TEST_F(SingleInstanceTest, AFolderOfAnotherUserHasNeitherLockNorSocket)
     if (geteuid() != 0)
         GTEST_SKIP() << "Only root can give a folder away.";
     ASSERT_EQ(::chown(qPrintable(folder.path()), 65534, 65534), 0);
-    EXPECT_TRUE(SingleInstance(folder.path()).isFirst());
+    const SingleInstance one(folder.path());
+    EXPECT_TRUE(one.isFirst());
     EXPECT_EQ(fingerprint(folder.path()), Fingerprint());
 }
 
