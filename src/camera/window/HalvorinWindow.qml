@@ -45,11 +45,12 @@ T.ApplicationWindow {
     }
 
     // Nobody needs the rest before the camera can be seen; the menus alone are a hundred objects.
-    onFrameSwapped: if (menus.status === Loader.Null) rest.start()
-    Timer {
+    onFrameSwapped: if (menus.status === Loader.Null && !rest.active) rest.start()
+    EventTimer {
         id: rest
         interval: 20
-        onTriggered: {
+        singleShot: true
+        onTimeout: {
             menus.setSource("Menus.qml", { bar: bar, window: root });
             camera.readAhead();
         }

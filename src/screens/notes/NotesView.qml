@@ -43,10 +43,10 @@ ScrollList {
     Accessible.focusable: true
     Keys.onTabPressed: (root.headerItem as NotesHeader).firstButton.forceActiveFocus(Qt.TabFocusReason)
 
-    Timer {
+    EventTimer {
         id: back
-        interval: 0 // The view takes in the new rows first.
-        onTriggered: {
+        singleShot: true // The view takes in the new rows first.
+        onTimeout: {
             root.forceLayout();
             root.scrollTo(0, root.originY + keepsakes.place);
         }

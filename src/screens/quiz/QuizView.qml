@@ -40,11 +40,12 @@ HVScroll {
     // Another quiz begins at its beginning.
     onModuleIDChanged: root.contentY = 0
     // The score stands at the foot, which the explanations push down as they are laid out.
-    onContentHeightChanged: if (toFoot.running) root.scrollTo(0, root.contentHeight)
+    onContentHeightChanged: if (toFoot.active) root.scrollTo(0, root.contentHeight)
 
-    Timer {
+    EventTimer {
         id: toFoot
         interval: 100
+        singleShot: true
     }
     QuizTaking {
         id: taking

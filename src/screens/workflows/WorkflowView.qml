@@ -24,17 +24,16 @@ HVScroll {
     }
     // Below the display's edge at first, so that nobody waits for the programs: a kind at a time,
     // with frames between them.
-    Timer {
+    EventTimer {
         id: turns
         property int passed: 0
         interval: 16
-        repeat: true
-        running: CNUI.animated && turns.passed < kinds.count
-        onTriggered: ++turns.passed
+        onTimeout: if (++turns.passed >= kinds.count) turns.stop()
     }
     Repeater {
         id: kinds
         model: SoftwareKindList {}
+        onCountChanged: if (CNUI.animated) turns.start()
         delegate: Loader {
             id: group
 
