@@ -45,12 +45,11 @@ T.ApplicationWindow {
     }
 
     // Nobody needs the rest before the camera can be seen; the menus alone are a hundred objects.
-    onFrameSwapped: if (menus.status === Loader.Null && !rest.active) rest.start()
-    EventTimer {
+    onFrameSwapped: if (menus.status === Loader.Null) rest.start()
+    Timer {
         id: rest
         interval: 20
-        singleShot: true
-        onTimeout: {
+        onTriggered: {
             menus.setSource("Menus.qml", { bar: bar, window: root });
             camera.readAhead();
         }

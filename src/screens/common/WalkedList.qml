@@ -56,9 +56,9 @@ ScrollList {
     Keys.onTabPressed: event => event.accepted = root.goOn(true)
     Keys.onBacktabPressed: event => event.accepted = root.goOn(false)
 
-    EventTimer {
+    Timer {
         id: later
-        singleShot: true // The view takes in the new rows first.
-        onTimeout: root.begin()
+        interval: 0 // The view takes in the new rows first.
+        onTriggered: root.begin()
     }
 }

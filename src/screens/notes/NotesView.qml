@@ -43,10 +43,10 @@ ScrollList {
     Accessible.focusable: true
     Keys.onTabPressed: (root.headerItem as NotesHeader).firstButton.forceActiveFocus(Qt.TabFocusReason)
 
-    EventTimer {
+    Timer {
         id: back
-        singleShot: true // The view takes in the new rows first.
-        onTimeout: {
+        interval: 0 // The view takes in the new rows first.
+        onTriggered: {
             root.forceLayout();
             root.scrollTo(0, root.originY + keepsakes.place);
         }

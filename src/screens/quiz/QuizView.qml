@@ -40,12 +40,11 @@ HVScroll {
     // Another quiz begins at its beginning.
     onModuleIDChanged: root.contentY = 0
     // The score stands at the foot, which the explanations push down as they are laid out.
-    onContentHeightChanged: if (toFoot.active) root.scrollTo(0, root.contentHeight)
+    onContentHeightChanged: if (toFoot.running) root.scrollTo(0, root.contentHeight)
 
-    EventTimer {
+    Timer {
         id: toFoot
         interval: 100
-        singleShot: true
     }
     QuizTaking {
         id: taking

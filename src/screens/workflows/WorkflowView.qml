@@ -24,16 +24,17 @@ HVScroll {
     }
     // Below the display's edge at first, so that nobody waits for the programs: a kind at a time,
     // with frames between them.
-    EventTimer {
+    Timer {
         id: turns
         property int passed: 0
         interval: 16
-        onTimeout: if (++turns.passed >= kinds.count) turns.stop()
+        repeat: true
+        running: CNUI.animated && turns.passed < kinds.count
+        onTriggered: ++turns.passed
     }
     Repeater {
         id: kinds
         model: SoftwareKindList {}
-        onCountChanged: if (CNUI.animated) turns.start()
         delegate: Loader {
             id: group
 
