@@ -41,6 +41,11 @@ constexpr bool kIsFast = true;
 
 constexpr double kMostGrowth = 1.05;
 
+// A Timer and a ListView that reads ahead are animations at rest. Where one begins in the turn of
+// the event loop in which another ends, Qt 6.4 stops what drives them twice, and says so. Nothing
+// comes of it: each keeps its time. It is no finding, and counted apart.
+constexpr auto kStoppedTwice = "QUnifiedTimer::stopAnimationDriver: driver is not running"_L1;
+
 // A home of its own, known to all that asks for one.
 class OwnHome
 {
@@ -122,7 +127,13 @@ int main(int argc, char **argv)
                 return u"another thread's work"_s;
             return u"action %1, %2"_s.arg(monkey.actions()).arg(monkey.lastAction());
         };
-        reportWarnings([&](const QString &text) { findings.add(u"Warning: "_s + text, during()); });
+        int stoppedTwice = 0;
+        reportWarnings([&](const QString &text) {
+            if (text == kStoppedTwice)
+                ++stoppedTwice;
+            else
+                findings.add(u"Warning: "_s + text, during());
+        });
         int stalls = 0;
         const auto tellOfStall = [&](qint64 stall, qint64 working, qint64 inLine, qint64 stolen) {
             ++stalls;
@@ -162,6 +173,7 @@ int main(int argc, char **argv)
         summary.append(u"longest stall %1 ms, %2 above 200"_s.arg(heartbeat.longest()).arg(stalls));
         summary.append(u"memory "_s + memory.summary());
         summary.append(u"%1 actions, %2 times closed"_s.arg(monkey.actions()).arg(closings));
+        summary.append(u"%1 times \"%2\""_s.arg(stoppedTwice).arg(kStoppedTwice));
         reportWarnings([&](const QString &text) { findings.add(u"Warning: "_s + text, u"end"_s); });
     }
     const QString verdict = integrity(progress);

@@ -87,6 +87,11 @@ const QStringList kWords{ u"lens "_s, u"f/1.8"_s, u"tripod "_s, u"<b>bold</b>"_s
     u"\"quote "_s, u"NEAR AND OR "_s, u"* "_s, u"'); DROP TABLE notes; "_s, u"ﬁlm "_s,
     u"a\u0301 "_s, QString(300, u'm') };
 
+// ms between two of a held key, of a wheel that is spun, of a pointer that moves.
+constexpr int kKeyRepeat = 30;
+constexpr int kNotch = 10;
+constexpr int kMove = 10;
+
 // The nearest place in a window, which may have been resized since the place was chosen.
 QPoint inside(const QWindow *window, QPoint place)
 {
@@ -162,6 +167,14 @@ int Monkey::upTo(int most)
     return std::uniform_int_distribution(0, most)(m_generator);
 }
 
+// What a hand does takes its time, and it does nothing else meanwhile.
+void Monkey::inTurn(int count, int pause, const std::function<void(int)> &step)
+{
+    for (int turn = 0; turn < count; ++turn)
+        QTimer::singleShot(turn * pause, this, [step, turn] { step(turn); });
+    m_timer.start(m_timer.interval() + count * pause);
+}
+
 // What has the focus, since an open help or about window would never be left otherwise. Only what
 // QML draws: a dialog of the platform's could do anything to anybody's files.
 QQuickWindow *Monkey::window() const
@@ -178,11 +191,10 @@ QPoint Monkey::anywhere()
 
 void Monkey::pressKey()
 {
-    const Key &key = any(kKeys);
+    const Key key = any(kKeys);
     const int times = upTo(3) == 0 ? 1 + upTo(12) : 1;
     note(u"key %1 %2 times"_s.arg(QKeySequence(key.key | key.modifiers).toString()).arg(times));
-    for (int i = 0; i < times; ++i)
-        strike(key.key, key.modifiers);
+    inTurn(times, kKeyRepeat, [this, key](int) { strike(key.key, key.modifiers); });
 }
 
 // A key that no shortcut takes may be a letter to a text field, also with Alt.
@@ -242,14 +254,11 @@ void Monkey::turnWheel()
     const int step = (upTo(1) == 0 ? 1 : -1) * (upTo(2) == 0 ? 15 : 120);
     const auto modifiers = upTo(9) == 0 ? Qt::ControlModifier : Qt::NoModifier;
     note(u"wheel %1 times %2 at %3,%4"_s.arg(turns).arg(step).arg(place.x()).arg(place.y()));
-    // One after the other, as from a finger: a wheel that is spun gives some hundred a second.
-    for (int turn = 0; turn < turns; ++turn) {
-        QTimer::singleShot(10 * turn, this, [this, place, step, modifiers] {
-            QWheelEvent event(place, window()->mapToGlobal(place), {}, { 0, step }, Qt::NoButton,
-                modifiers, Qt::NoScrollPhase, false);
-            QCoreApplication::sendEvent(window(), &event);
-        });
-    }
+    inTurn(turns, kNotch, [this, place, step, modifiers](int) {
+        QWheelEvent event(place, window()->mapToGlobal(place), {}, { 0, step }, Qt::NoButton,
+            modifiers, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(window(), &event);
+    });
 }
 
 void Monkey::drag()
@@ -258,11 +267,15 @@ void Monkey::drag()
     const QPoint to = anywhere();
     constexpr int steps = 8;
     note(u"drag %1,%2 to %3,%4"_s.arg(from.x()).arg(from.y()).arg(to.x()).arg(to.y()));
-    QQuickWindow *where = window();
-    QTest::mousePress(where, Qt::LeftButton, {}, inside(where, from));
-    for (int step = 1; step <= steps; ++step)
-        QTest::mouseMove(where, inside(where, from + (to - from) * step / steps));
-    QTest::mouseRelease(where, Qt::LeftButton, {}, inside(where, to));
+    inTurn(steps + 2, kMove, [this, from, to](int step) {
+        QQuickWindow *where = window();
+        if (step == 0)
+            QTest::mousePress(where, Qt::LeftButton, {}, inside(where, from));
+        else if (step <= steps)
+            QTest::mouseMove(where, inside(where, from + (to - from) * step / steps));
+        else
+            QTest::mouseRelease(where, Qt::LeftButton, {}, inside(where, to));
+    });
 }
 
 void Monkey::resize()
@@ -288,8 +301,8 @@ void Monkey::changeZoom()
     const Qt::Key key = any(keys);
     const int times = 1 + upTo(5);
     note(u"zoom %1 %2 times"_s.arg(char(key)).arg(times));
-    for (int i = 0; i < times; ++i)
-        QTest::keyClick(window(), key, Qt::ControlModifier);
+    inTurn(times, kKeyRepeat,
+        [this, key](int) { QTest::keyClick(window(), key, Qt::ControlModifier); });
 }
 
 void Monkey::changeTheme()
@@ -320,10 +333,13 @@ void Monkey::useMenu()
     const Qt::Key letter = any(letters);
     const int down = upTo(12);
     note(u"menu Alt+%1, %2 down"_s.arg(char(letter)).arg(down));
-    strike(letter, Qt::AltModifier);
-    for (int i = 0; i < down; ++i)
-        QTest::keyClick(window(), Qt::Key_Down);
-    QTest::keyClick(window(), upTo(3) == 0 ? Qt::Key_Escape : Qt::Key_Return);
+    const Qt::Key last = upTo(3) == 0 ? Qt::Key_Escape : Qt::Key_Return;
+    inTurn(down + 2, kKeyRepeat, [this, letter, down, last](int turn) {
+        if (turn == 0)
+            strike(letter, Qt::AltModifier);
+        else
+            QTest::keyClick(window(), turn <= down ? Qt::Key_Down : last);
+    });
 }
 
 void Monkey::openSomething()

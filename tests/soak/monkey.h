@@ -34,6 +34,7 @@ private:
 
     void act();
     void note(const QString &action);
+    void inTurn(int count, int pause, const std::function<void(int)> &step);
     [[nodiscard]] int upTo(int most);
     template <typename List>
     [[nodiscard]] const auto &any(const List &list)
