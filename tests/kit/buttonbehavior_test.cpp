@@ -112,7 +112,7 @@ TEST_F(ButtonBehavior, GoesWithItsRingAndSaysNothing)
 // has left it.
 TEST_F(ButtonBehavior, OutsideOfAWindowTellsNoTip)
 {
-    constexpr int tipWaits = 600;
+    constexpr int tipWaits = 600; // ms, the delay of CNTip
     const QQuickWindow window;
     button->setProperty("tip", u"Opens the course"_s);
     for (QQuickItem *before : { static_cast<QQuickItem *>(nullptr), window.contentItem() }) {

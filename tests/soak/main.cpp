@@ -78,12 +78,21 @@ public:
         m_told.append(finding);
         std::cout << qPrintable(finding) << "\n    during: " << qPrintable(during) << std::endl;
     }
+    void addWarning(const QString &text, const QString &during)
+    {
+        if (text != kStoppedTwice)
+            return add(u"Warning: "_s + text, during);
+        const QMutexLocker lock(&m_mutex);
+        ++m_stoppedTwice;
+    }
     [[nodiscard]] int count() const { return m_count; }
+    [[nodiscard]] int stoppedTwice() const { return m_stoppedTwice; }
 
 private:
     QMutex m_mutex;
     QStringList m_told;
     int m_count = 0;
+    int m_stoppedTwice = 0;
 };
 
 QString integrity(const QString &path)
@@ -106,7 +115,7 @@ int main(int argc, char **argv)
     QString progress;
     QStringList summary;
 
-    reportWarnings([&](const QString &text) { findings.add(u"Warning: "_s + text, u"start"_s); });
+    reportWarnings([&](const QString &text) { findings.addWarning(text, u"start"_s); });
     Opener::setAction([](const QUrl &) {});
     {
         int count = 1;
@@ -127,13 +136,7 @@ int main(int argc, char **argv)
                 return u"another thread's work"_s;
             return u"action %1, %2"_s.arg(monkey.actions()).arg(monkey.lastAction());
         };
-        int stoppedTwice = 0;
-        reportWarnings([&](const QString &text) {
-            if (text == kStoppedTwice)
-                ++stoppedTwice;
-            else
-                findings.add(u"Warning: "_s + text, during());
-        });
+        reportWarnings([&](const QString &text) { findings.addWarning(text, during()); });
         int stalls = 0;
         const auto tellOfStall = [&](qint64 stall, qint64 working, qint64 inLine, qint64 stolen) {
             ++stalls;
@@ -173,8 +176,8 @@ int main(int argc, char **argv)
         summary.append(u"longest stall %1 ms, %2 above 200"_s.arg(heartbeat.longest()).arg(stalls));
         summary.append(u"memory "_s + memory.summary());
         summary.append(u"%1 actions, %2 times closed"_s.arg(monkey.actions()).arg(closings));
-        summary.append(u"%1 times \"%2\""_s.arg(stoppedTwice).arg(kStoppedTwice));
-        reportWarnings([&](const QString &text) { findings.add(u"Warning: "_s + text, u"end"_s); });
+        summary.append(u"%1 times \"%2\""_s.arg(findings.stoppedTwice()).arg(kStoppedTwice));
+        reportWarnings([&](const QString &text) { findings.addWarning(text, u"end"_s); });
     }
     const QString verdict = integrity(progress);
     if (verdict != "ok"_L1)

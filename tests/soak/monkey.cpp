@@ -87,7 +87,8 @@ const QStringList kWords{ u"lens "_s, u"f/1.8"_s, u"tripod "_s, u"<b>bold</b>"_s
     u"\"quote "_s, u"NEAR AND OR "_s, u"* "_s, u"'); DROP TABLE notes; "_s, u"ﬁlm "_s,
     u"a\u0301 "_s, QString(300, u'm') };
 
-// ms between two of a held key, of a wheel that is spun, of a pointer that moves.
+// ms between two strokes of a held key, two notches of a wheel that is spun, two moves of a
+// pointer.
 constexpr int kKeyRepeat = 30;
 constexpr int kNotch = 10;
 constexpr int kMove = 10;
