@@ -85,6 +85,14 @@ TestCase {
         }
     }
 
+    function test_breaks_a_word_of_pages_anywhere() {
+        compare(field().wrapMode, TextEdit.Wrap);
+        page.area.text = "m".repeat(5000);
+        compare(field().wrapMode, TextEdit.WrapAnywhere);
+        field().remove(100, 5000);
+        compare(field().wrapMode, TextEdit.Wrap);
+    }
+
     function test_says_what_it_is() {
         compare(field().Accessible.name, "Note");
         compare(field().Accessible.role, Accessible.EditableText);

@@ -12,6 +12,7 @@
 
 #include <QKeySequence>
 #include <QRegularExpression>
+#include <QTextOption>
 
 namespace {
 
@@ -19,6 +20,9 @@ using RGB = CRVNTheme::RGB;
 
 // What the program asks of words that aren't body text.
 constexpr double kContrast = 4.5;
+
+// A web address may be as long, words are much shorter.
+constexpr qsizetype kLongestWord = 1000;
 
 RGB rgb(const QColor &color)
 {
@@ -144,6 +148,19 @@ QString CNUI::withoutMnemonic(const QString &text) const
 QString CNUI::withLiteralMarks(const QString &words) const
 {
     return QString(words).replace(u'&', QStringLiteral("&&"));
+}
+
+int CNUI::wrapMode(const QString &text) const
+{
+    // ASCII's alone: in Chinese a line may end nearly anywhere as it is.
+    const auto isJoined = [](QChar letter) { return letter > u' ' && letter < u'\x7f'; };
+    qsizetype length = 0;
+    for (const QChar letter : text) {
+        length = isJoined(letter) ? length + 1 : 0;
+        if (length == kLongestWord)
+            return QTextOption::WrapAnywhere;
+    }
+    return QTextOption::WrapAtWordBoundaryOrAnywhere;
 }
 
 QColor CNUI::gray(qreal white, qreal opacity) const

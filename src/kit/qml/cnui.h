@@ -75,6 +75,11 @@ public:
     /// The other way round: the text of a menu that shows `words` and has no mnemonic.
     Q_INVOKABLE [[nodiscard]] QString withLiteralMarks(const QString &words) const;
 
+    /// How a text wraps that a user wrote, as TextEdit.wrapMode. For each line of a word that takes
+    /// several, Qt measures all the rest of it, which takes seconds where somebody has pasted a
+    /// picture as letters; such a text breaks anywhere.
+    Q_INVOKABLE [[nodiscard]] int wrapMode(const QString &text) const;
+
     /// A neutral gray, 0 (black) to 1 (white).
     Q_INVOKABLE [[nodiscard]] QColor gray(qreal white, qreal opacity = 1) const;
 

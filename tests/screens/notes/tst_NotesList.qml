@@ -91,6 +91,14 @@ TestCase {
         verify(!list.visible);
     }
 
+    function test_breaks_a_word_of_pages_anywhere() {
+        World.addNote("lesson", "l1", "Words");
+        World.addNote("lesson", "l1", "m".repeat(5000));
+        open();
+        compare(note("Words").wrapMode, TextEdit.Wrap);
+        compare(note("m".repeat(5000)).wrapMode, TextEdit.WrapAnywhere);
+    }
+
     function test_opens_the_editor_on_a_note() {
         World.addNote("lesson", "l1", "To be changed");
         open();

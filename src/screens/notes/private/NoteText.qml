@@ -13,7 +13,7 @@ TextEdit {
     persistentSelection: false
     activeFocusOnTab: false
     textFormat: TextEdit.PlainText
-    wrapMode: TextEdit.Wrap
+    wrapMode: CNUI.wrapMode(root.text)
     font: Type.message
     color: root.c.oledText
     selectionColor: root.c.selection
