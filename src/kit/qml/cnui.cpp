@@ -21,7 +21,7 @@ using RGB = CRVNTheme::RGB;
 // What the program asks of words that aren't body text.
 constexpr double kContrast = 4.5;
 
-// A web address may be as long, words are much shorter.
+// In letters. Some web addresses come near it, no word of a language does.
 constexpr qsizetype kLongestWord = 1000;
 
 RGB rgb(const QColor &color)
@@ -152,7 +152,7 @@ QString CNUI::withLiteralMarks(const QString &words) const
 
 int CNUI::wrapMode(const QString &text) const
 {
-    // ASCII's alone: in Chinese a line may end nearly anywhere as it is.
+    // Other letters are passed over: a line of Chinese may end nearly anywhere as it is.
     const auto isJoined = [](QChar letter) { return letter > u' ' && letter < u'\x7f'; };
     qsizetype length = 0;
     for (const QChar letter : text) {
