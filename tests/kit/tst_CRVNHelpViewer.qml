@@ -23,6 +23,7 @@ TestCase {
     // The application of these tests has no topics, so the kit's own two are all there are.
     function init() {
         viewer = createTemporaryObject(viewers, test);
+        waitForRendering(viewer); // rows get their places as a frame is drawn
     }
     function rows() {
         return Find.buttons(viewer).filter(button => button.selected !== undefined);
