@@ -84,13 +84,13 @@ TestCase {
     function test_has_its_menus() {
         const titles = [];
         for (let i = 0; i < program.menuBar.count; ++i)
-            titles.push(CNUI.withoutMnemonic(program.menuBar.menuAt(i).title));
+            titles.push(Words.withoutMnemonic(program.menuBar.menuAt(i).title));
         compare(titles, ["File", "Edit", "View", "Go", "Theme", "Help"]);
     }
 
     function menu(title) {
         const bar = program.menuBar;
-        return [...Array(bar.count).keys()].map(i => bar.menuAt(i)).find(menu => CNUI.withoutMnemonic(menu.title) === title);
+        return [...Array(bar.count).keys()].map(i => bar.menuAt(i)).find(menu => Words.withoutMnemonic(menu.title) === title);
     }
     function rows(title) {
         const list = menu(title);
@@ -201,7 +201,7 @@ TestCase {
 
     function test_offers_seven_themes_and_checks_brass_for_a_user_who_has_never_chosen() {
         const bar = program.menuBar;
-        const themes = [...Array(bar.count).keys()].map(i => bar.menuAt(i)).find(menu => CNUI.withoutMnemonic(menu.title) === "Theme");
+        const themes = [...Array(bar.count).keys()].map(i => bar.menuAt(i)).find(menu => Words.withoutMnemonic(menu.title) === "Theme");
         const rows = [...Array(themes.count).keys()].map(i => themes.itemAt(i));
         const checked = () => rows.filter(row => row.checked).map(row => row.Accessible.name);
         compare(rows.map(row => row.Accessible.name),

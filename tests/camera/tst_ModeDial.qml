@@ -77,8 +77,8 @@ TestCase {
     }
 
     function test_has_its_tips() {
-        compare(previous.tip, CNUI.localized("Previous screen (⌘[)"));
-        compare(next.tip, CNUI.localized("Next screen (⌘])"));
+        compare(previous.tip, Words.localized("Previous screen (⌘[)"));
+        compare(next.tip, Words.localized("Next screen (⌘])"));
         compare(dial.tip, "Mode dial: Campus. Click to turn to the next screen.");
         AppModel.screen = HVScreen.Lens;
         compare(dial.tip, "Mode dial: Lens Lab. Click to turn to the next screen.");

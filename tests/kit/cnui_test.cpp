@@ -3,8 +3,6 @@
 #include "kit/preferences.h"
 #include "kit/printing.h"
 
-#include <QTextOption>
-
 #include <gtest/gtest.h>
 
 namespace {
@@ -62,23 +60,4 @@ TEST_F(KitColors, AreReadInEveryTheme)
         EXPECT_GE(reads(kit.linkInk(), kit.theme().bg), 4.5) << qPrintable(theme.id);
         EXPECT_GE(reads(kit.selectionInk(), kit.selection()), 4.5) << qPrintable(theme.id);
     }
-}
-
-TEST(TextsOfUsers, BreakBetweenWords)
-{
-    const CNUI kit;
-    for (const QString &text :
-        QStringList{ QString(), QStringLiteral("Meter for the shadows.\n").repeated(900),
-            QString(999, u'm') + u' ' + QString(999, u'm'), QString(20'000, u'写'),
-            QString(20'000, u'\n') })
-        EXPECT_EQ(kit.wrapMode(text), QTextOption::WrapAtWordBoundaryOrAnywhere)
-            << qPrintable(text.left(30));
-}
-
-TEST(TextsOfUsers, BreakAnywhereIfAWordTakesPages)
-{
-    const CNUI kit;
-    EXPECT_EQ(kit.wrapMode(QString(1000, u'm')), QTextOption::WrapAnywhere);
-    EXPECT_EQ(kit.wrapMode(QStringLiteral("a picture: ") + QString(1000, u'/') + u'\n'),
-        QTextOption::WrapAnywhere);
 }

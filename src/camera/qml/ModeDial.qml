@@ -18,7 +18,7 @@ Row {
         anchors.verticalCenter: parent.verticalCenter
         c: root.c
         symbol: "chevron.left"
-        tip: CNUI.localized("Previous screen (⌘[)")
+        tip: Words.localized("Previous screen (⌘[)")
         onClicked: AppModel.step(-1)
     }
     Pressable {
@@ -74,7 +74,7 @@ Row {
         anchors.verticalCenter: parent.verticalCenter
         c: root.c
         symbol: "chevron.right"
-        tip: CNUI.localized("Next screen (⌘])")
+        tip: Words.localized("Next screen (⌘])")
         onClicked: AppModel.step(1)
     }
 }

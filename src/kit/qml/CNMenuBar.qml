@@ -22,7 +22,7 @@ T.MenuBar {
 
         contentItem: MuteHvText {
             id: title
-            text: CNUI.withoutMnemonic(item.text)
+            text: Words.withoutMnemonic(item.text)
             font: Type.menuTitle
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter

@@ -8,7 +8,7 @@ T.MenuItem {
     id: root
 
     property string title: ""
-    readonly property string keys: CNUI.shortcutText(root.action?.shortcut ?? "")
+    readonly property string keys: Words.shortcutText(root.action?.shortcut ?? "")
 
     QtObject {
         id: metrics
@@ -23,7 +23,7 @@ T.MenuItem {
         }
     }
 
-    onTitleChanged: root.text = CNUI.withLiteralMarks(root.title)
+    onTitleChanged: root.text = Words.withLiteralMarks(root.title)
 
     implicitWidth: metrics.inset + words.implicitWidth + metrics.gap + (keyHint.text !== "" ? keyHint.implicitWidth + metrics.edge : 0)
     implicitHeight: 26 * metrics.zoom
@@ -50,7 +50,7 @@ T.MenuItem {
             id: words
             x: metrics.inset
             anchors.verticalCenter: parent.verticalCenter
-            text: CNUI.withoutMnemonic(root.text)
+            text: Words.withoutMnemonic(root.text)
             font: metrics.magnified(Type.row)
             color: CNUI.theme.text
         }

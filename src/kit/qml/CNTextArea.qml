@@ -51,7 +51,7 @@ Item {
             selectedTextColor: "white"
             selectByMouse: true
             textFormat: TextEdit.PlainText
-            wrapMode: CNUI.wrapMode(area.text)
+            wrapMode: Words.wrapMode(area.text)
             font: Type.writing
             onCursorRectangleChanged: pane.follow(cursorRectangle)
             Accessible.role: Accessible.EditableText

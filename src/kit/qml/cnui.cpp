@@ -6,13 +6,8 @@
 #include "kit/kit.h"
 #include "kit/motion.h"
 #include "kit/opener.h"
-#include "kit/platformwords.h"
 #include "kit/preferences.h"
 #include "kit/snapshotmode.h"
-
-#include <QKeySequence>
-#include <QRegularExpression>
-#include <QTextOption>
 
 namespace {
 
@@ -20,9 +15,6 @@ using RGB = CRVNTheme::RGB;
 
 // What the program asks of words that aren't body text.
 constexpr double kContrast = 4.5;
-
-// In letters. Some web addresses come near it, no word of a language does.
-constexpr qsizetype kLongestWord = 1000;
 
 RGB rgb(const QColor &color)
 {
@@ -127,40 +119,6 @@ QFont CNUI::cnFont(qreal size, int weight, qreal tracking) const
 QFont CNUI::cnMono(qreal size, int weight) const
 {
     return Fonts::monospaced(size, QFont::Weight(weight));
-}
-
-QString CNUI::localized(const QString &text) const
-{
-    return PlatformWords::localized(text);
-}
-
-QString CNUI::shortcutText(const QString &sequence) const
-{
-    return QKeySequence(sequence).toString(QKeySequence::NativeText);
-}
-
-QString CNUI::withoutMnemonic(const QString &text) const
-{
-    static const QRegularExpression mark(QStringLiteral("&(.)"));
-    return QString(text).replace(mark, QStringLiteral("\\1"));
-}
-
-QString CNUI::withLiteralMarks(const QString &words) const
-{
-    return QString(words).replace(u'&', QStringLiteral("&&"));
-}
-
-int CNUI::wrapMode(const QString &text) const
-{
-    // Other letters are passed over: a line of Chinese may end nearly anywhere as it is.
-    const auto isJoined = [](QChar letter) { return letter > u' ' && letter < u'\x7f'; };
-    qsizetype length = 0;
-    for (const QChar letter : text) {
-        length = isJoined(letter) ? length + 1 : 0;
-        if (length == kLongestWord)
-            return QTextOption::WrapAnywhere;
-    }
-    return QTextOption::WrapAtWordBoundaryOrAnywhere;
 }
 
 QColor CNUI::gray(qreal white, qreal opacity) const

@@ -12,7 +12,7 @@ struct CNKitThemeForQml {
     QML_VALUE_TYPE(cnKitTheme)
 };
 
-/// Colors and fonts of the kit's widgets.
+/// What the kit tells QML: colors, fonts, motion, and the application's name, lines and windows.
 class CNUI : public QObject
 {
     Q_OBJECT
@@ -62,23 +62,6 @@ public:
         qreal size, int weight = QFont::Normal, qreal tracking = 0) const;
     /// The monospaced font, for figures that must not dance.
     Q_INVOKABLE [[nodiscard]] QFont cnMono(qreal size, int weight = QFont::Normal) const;
-
-    /// `text` in the platform's own words, such as "Ctrl+[" for "⌘[".
-    Q_INVOKABLE [[nodiscard]] QString localized(const QString &text) const;
-
-    /// A key sequence such as "Ctrl+1" as the platform writes it.
-    Q_INVOKABLE [[nodiscard]] QString shortcutText(const QString &sequence) const;
-
-    /// A menu's text without the mark of its mnemonic: "&Go" gives "Go", "A && B" gives "A & B".
-    Q_INVOKABLE [[nodiscard]] QString withoutMnemonic(const QString &text) const;
-
-    /// The other way round: the text of a menu that shows `words` and has no mnemonic.
-    Q_INVOKABLE [[nodiscard]] QString withLiteralMarks(const QString &words) const;
-
-    /// How a text wraps that a user wrote, as TextEdit.wrapMode. For each line of a word that takes
-    /// several, Qt measures all the rest of it, which takes seconds where somebody has pasted a
-    /// picture as letters; such a text breaks anywhere.
-    Q_INVOKABLE [[nodiscard]] int wrapMode(const QString &text) const;
 
     /// A neutral gray, 0 (black) to 1 (white).
     Q_INVOKABLE [[nodiscard]] QColor gray(qreal white, qreal opacity = 1) const;

@@ -76,13 +76,13 @@ Item {
                 spacing: 10
                 CNChromeButton {
                     label: qsTr("Cancel")
-                    tip: qsTr("Close without saving (%1)").arg(CNUI.shortcutText("Esc"))
+                    tip: qsTr("Close without saving (%1)").arg(Words.shortcutText("Esc"))
                     onClicked: sheet.close()
                 }
                 CNChromeButton {
                     id: save
                     label: qsTr("Save Note")
-                    tip: qsTr("Save Note (%1)").arg(CNUI.shortcutText("Ctrl+S"))
+                    tip: qsTr("Save Note (%1)").arg(Words.shortcutText("Ctrl+S"))
                     prominent: true
                     onClicked: sheet.save()
                 }

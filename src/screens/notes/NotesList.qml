@@ -101,7 +101,7 @@ Column {
         delegate: Item {
             CNDialog {
                 title: qsTr("Delete this note?")
-                message: CNUI.localized(qsTr("The note is removed from this Mac. This can't be undone."))
+                message: Words.localized(qsTr("The note is removed from this Mac. This can't be undone."))
                 buttonTitle: qsTr("Delete Note")
                 cancelTitle: qsTr("Cancel")
                 destructive: true

@@ -112,7 +112,7 @@ TestCase {
         open();
         mouseClick(button("Delete"));
         tryVerify(() => question());
-        compare(question().Accessible.name, "Delete this note?. " + CNUI.localized("The note is removed from this Mac. This can't be undone."));
+        compare(question().Accessible.name, "Delete this note?. " + Words.localized("The note is removed from this Mac. This can't be undone."));
         compare(World.noteBodies(), ["Still needed"]);
         tryVerify(() => button("Cancel").activeFocus);
         mouseClick(button("Cancel"));

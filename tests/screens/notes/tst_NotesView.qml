@@ -79,7 +79,7 @@ TestCase {
     function test_speaks_of_the_machine_in_its_platforms_words() {
         World.begin();
         open();
-        compare(title().subtitle, CNUI.localized("Everything here is saved on this Mac and can always be exported."));
+        compare(title().subtitle, Words.localized("Everything here is saved on this Mac and can always be exported."));
     }
 
     function test_shows_progress_and_the_best_quiz_of_each_module() {

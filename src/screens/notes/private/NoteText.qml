@@ -13,7 +13,7 @@ TextEdit {
     persistentSelection: false
     activeFocusOnTab: false
     textFormat: TextEdit.PlainText
-    wrapMode: CNUI.wrapMode(root.text)
+    wrapMode: Words.wrapMode(root.text)
     font: Type.message
     color: root.c.oledText
     selectionColor: root.c.selection

@@ -35,7 +35,7 @@ Column {
             width: parent.width - buttons.width - 18
             c: root.c
             title: qsTr("My Notes & Progress")
-            subtitle: CNUI.localized(qsTr("Everything here is saved on this Mac and can always be exported."))
+            subtitle: Words.localized(qsTr("Everything here is saved on this Mac and can always be exported."))
         }
         Row {
             id: buttons
