@@ -105,6 +105,15 @@ void distrust(sqlite3 *handle)
         nullptr, nullptr, nullptr);
 }
 
+// SQLite counts a statement's steps for as long as the statement is kept, and the index for full
+// texts keeps some of its own: in the end any search would have gone too far.
+void countStepsAnew(sqlite3 *handle)
+{
+    sqlite3_stmt *statement = handle ? sqlite3_next_stmt(handle, nullptr) : nullptr;
+    for (; statement; statement = sqlite3_next_stmt(handle, statement))
+        sqlite3_stmt_status(statement, SQLITE_STMTSTATUS_VM_STEP, true);
+}
+
 QString decodedText(QByteArrayView bytes)
 {
     // QString::fromUtf8() swallows a byte order mark at the front, which a user may have pasted. A
@@ -262,6 +271,7 @@ SQLiteDB::SQLiteDB(const QString &path, Access access)
 
 void SQLiteDB::exec(const QString &sql)
 {
+    countStepsAnew(m_handle.get());
     char *rawMessage = nullptr;
     const int code
         = sqlite3_exec(m_handle.get(), sql.toUtf8().constData(), nullptr, nullptr, &rawMessage);
@@ -366,6 +376,7 @@ HVError SQLiteDB::error() const
 
 SQLiteDB::Statement SQLiteDB::prepared(const QString &sql, const QList<SQLValue> &arguments) const
 {
+    countStepsAnew(m_handle.get());
     sqlite3_stmt *raw = nullptr;
     const int code
         = sqlite3_prepare_v2(m_handle.get(), sql.toUtf8().constData(), -1, &raw, nullptr);

@@ -535,6 +535,24 @@ TEST(SQLiteDB, EndsAStatementWithoutEnd)
     EXPECT_EQ(db.scalarInt(u"SELECT 1"_s), 1); // each statement has its own time
 }
 
+// The index for full texts keeps statements of its own for as long as the connection is open, and
+// SQLite never sets their steps back.
+TEST(SQLiteDB, CountsStepsFromTheStartOfAStatement)
+{
+    constexpr int kColumns = 100;
+    QStringList columns;
+    for (int column = 0; column < kColumns; ++column)
+        columns.append(u"c%1"_s.arg(column));
+    SQLiteDB db(u":memory:"_s);
+    db.exec(u"CREATE VIRTUAL TABLE t USING fts5("_s + columns.join(u',') + u')');
+    db.exec(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n LIMIT 1000) "
+            "INSERT INTO t (c0) SELECT 'word' FROM n"_s);
+
+    // A hundred steps and more for each row, of which the statement's own are a few.
+    for (int time = 0; time < 100; ++time)
+        ASSERT_EQ(db.query(u"SELECT c0 FROM t WHERE t MATCH 'word'"_s).size(), 1000) << time;
+}
+
 TEST(SQLiteDB, SortsInMemoryAndNoMoreThanFitsIn)
 {
     const Folder scratch;
