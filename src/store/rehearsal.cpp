@@ -22,6 +22,11 @@ const QString kWal = u"-wal"_s;
 const QString kJournal = u"-journal"_s;
 const QString kIndex = u"-shm"_s;
 const QStringList kContents{ kFile, kWal, kJournal };
+const QStringList kFiles{ kFile, kWal, kJournal, kIndex };
+
+// A rehearsal's folder and, in it, the copy.
+const QString kScratch = u"halvorin-rehearsal-"_s;
+const QString kCopy = u"rehearsal.sqlite"_s;
 
 // Many times what a lifetime of notes takes. Copying more than this would fill the disk, or the
 // memory behind it, for a file that is hardly ours.
@@ -51,7 +56,7 @@ bool hasContent(const QString &path)
 // "-wal" can't be opened; and it takes a device for an empty database.
 void requireWritableFiles(const QString &path)
 {
-    for (const QString &suffix : { kFile, kWal, kJournal, kIndex }) {
+    for (const QString &suffix : kFiles) {
         const QFileInfo info(path + suffix);
         // SQLite would write its changes over whatever file such a link leads to. It makes none.
         if (info.isSymLink() && suffix != kFile)
@@ -169,13 +174,30 @@ void requireOrdinaryTables(const SQLiteDB &db)
         throw refusal(kEndless);
 }
 
+// A process that is killed as it rehearses leaves a copy of everything that its user has written.
+// Only what a rehearsal makes is taken away, and no sooner than any rehearsal has ended.
+void removeAbandonedCopies(const QString &place)
+{
+    const QDateTime anHourAgo = QDateTime::currentDateTimeUtc().addSecs(-60 * 60);
+    const QFileInfoList folders = QDir(place).entryInfoList(
+        { kScratch + u'*' }, QDir::Dirs | QDir::NoSymLinks | QDir::NoDotAndDotDot);
+    for (const QFileInfo &info : folders) {
+        if (info.lastModified() > anHourAgo)
+            continue;
+        const QDir folder(info.filePath());
+        for (const QString &suffix : kFiles)
+            QFile::remove(folder.filePath(kCopy + suffix));
+        QDir(place).rmdir(info.fileName());
+    }
+}
+
 void rehearseIn(const QString &place, const QString &path)
 {
-    const QTemporaryDir scratch(place + u"/halvorin-rehearsal-XXXXXX"_s); // its owner's alone
+    const QTemporaryDir scratch(place + u'/' + kScratch + u"XXXXXX"_s); // its owner's alone
     if (!scratch.isValid())
         throw HVError(HVError::Kind::Database, scratch.errorString(), SQLITE_CANTOPEN);
 
-    const QString copy = scratch.filePath(u"rehearsal.sqlite"_s);
+    const QString copy = scratch.filePath(kCopy);
     for (const QString &suffix : kContents) {
         if (QFileInfo::exists(path + suffix))
             copyFile(path + suffix, copy + suffix);
@@ -220,15 +242,18 @@ void rehearse(const QString &path)
     if (QFileInfo(path).size() < kHeaderSize)
         throw refusal(u"file is not a database"_s);
 
+    // Beside the file there is room whenever the file itself can grow.
+    QStringList places{ QDir::tempPath(), QFileInfo(path).absolutePath() };
+    places.removeAll(QString()); // the folder for temporary files is set to one that isn't there
+    for (const QString &place : places)
+        removeAbandonedCopies(place);
+
     qint64 size = 0;
     for (const Stamp &stamp : stamps(path))
         size += stamp.size;
 
     if (size <= kLargestCopy) {
-        // Beside the file there is room whenever the file itself can grow.
-        for (const QString &place : { QDir::tempPath(), QFileInfo(path).absolutePath() }) {
-            if (place.isEmpty()) // the folder for temporary files is set to one that isn't there
-                continue;
+        for (const QString &place : places) {
             try {
                 return rehearseIn(place, path);
             } catch (const HVError &error) {
@@ -253,7 +278,7 @@ std::optional<HVError> objectionTo(const QString &path)
 QStringList presentFiles(const QString &path)
 {
     QStringList files;
-    for (const QString &suffix : { kFile, kWal, kJournal, kIndex }) {
+    for (const QString &suffix : kFiles) {
         if (QFileInfo::exists(path + suffix))
             files.append(path + suffix);
     }

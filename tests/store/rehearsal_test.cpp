@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 
 #ifdef Q_OS_UNIX
@@ -19,6 +20,7 @@
 #endif
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using namespace StoreTesting;
 
 namespace {
@@ -120,6 +122,23 @@ void makeTruncated(const QString &path, qint64 size)
     QFile file(path);
     ASSERT_GT(file.size(), size);
     ASSERT_TRUE(file.resize(size));
+}
+
+// Lets a file or folder have been changed last so long ago.
+void makeOld(const QString &path, std::chrono::minutes age)
+{
+    std::filesystem::last_write_time(
+        path.toStdString(), std::filesystem::file_time_type::clock::now() - age);
+}
+
+// What a rehearsal that was killed so long ago leaves.
+void abandonACopy(const QString &folder, std::chrono::minutes age)
+{
+    QDir().mkpath(folder);
+    for (const QString &name :
+        { u"rehearsal.sqlite"_s, u"rehearsal.sqlite-wal"_s, u"rehearsal.sqlite-shm"_s })
+        writeFile(QDir(folder).filePath(name), "a copy of notes");
+    makeOld(folder, age);
 }
 
 QStringList noteBodies(const UserStore &store)
@@ -562,10 +581,57 @@ TEST_F(OpenProgressFile, DoesNotCopyAFileFarLargerThanOurs)
 {
     makeOurs(path);
     ASSERT_TRUE(QFile::resize(path, 300 * 1024 * 1024)); // sparse
-    const auto longAgo = std::filesystem::file_time_type::clock::now() - std::chrono::hours(1);
+    makeOld(scratch.path(), 60min);
     const std::filesystem::path temporary(scratch.path().toStdString());
-    std::filesystem::last_write_time(temporary, longAgo);
+    const auto longAgo = std::filesystem::last_write_time(temporary);
 
     EXPECT_EQ(Store::openProgressFile(url)->notes().size(), 20);
     EXPECT_EQ(std::filesystem::last_write_time(temporary), longAgo); // no copy came and went
+}
+
+TEST_F(OpenProgressFile, RemovesTheCopiesOfKilledRehearsals)
+{
+    makeOurs(path);
+    const Fingerprint before = fingerprint(folder.path());
+    abandonACopy(scratch.path(u"halvorin-rehearsal-Killed"_s), 61min);
+    abandonACopy(folder.path(u"halvorin-rehearsal-Killed"_s), 61min);
+
+    EXPECT_EQ(Store::openProgressFile(url)->notes().size(), 20);
+    EXPECT_EQ(fingerprint(folder.path()), before);
+    // That the folder for temporary files is as empty as it was is asked after each of these tests.
+}
+
+TEST_F(OpenProgressFile, LeavesTheCopyOfARehearsalThatMayBeRunning)
+{
+    makeOurs(path);
+    const QString running = scratch.path(u"halvorin-rehearsal-Running"_s);
+    abandonACopy(running, 59min);
+    const Fingerprint before = fingerprint(running);
+
+    EXPECT_EQ(Store::openProgressFile(url)->notes().size(), 20);
+    EXPECT_EQ(fingerprint(running), before);
+    EXPECT_TRUE(QDir(running).removeRecursively());
+}
+
+TEST_F(OpenProgressFile, RemovesNothingThatNoRehearsalMade)
+{
+    makeOurs(path);
+    const Folder elsewhere;
+    const QString linked = elsewhere.path(u"linked"_s);
+    abandonACopy(linked, 61min);
+    ASSERT_TRUE(QFile::link(linked, folder.path(u"halvorin-rehearsal-Link"_s)));
+    const QString otherName = folder.path(u"halvorin"_s);
+    abandonACopy(otherName, 61min);
+    const QString otherContent = folder.path(u"halvorin-rehearsal-Notes"_s);
+    ASSERT_TRUE(QDir().mkdir(otherContent));
+    writeFile(otherContent + u"/thoughts.txt"_s, "Mind the horizon.");
+    makeOld(otherContent, 61min);
+    const auto everything = [&] {
+        return QList{ fingerprint(folder.path()), fingerprint(linked), fingerprint(otherName),
+            fingerprint(otherContent) };
+    };
+    const QList<Fingerprint> before = everything();
+
+    EXPECT_EQ(Store::openProgressFile(url)->notes().size(), 20);
+    EXPECT_EQ(everything(), before);
 }
