@@ -5,6 +5,7 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
+#include <QProcessEnvironment>
 
 using namespace Qt::StringLiterals;
 
@@ -70,6 +71,9 @@ QString integrity(const QString &path)
 
 Child::Child(const QStringList &arguments)
 {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"TMPDIR"_s, m_temporary.path());
+    m_process.setProcessEnvironment(environment);
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.start(QStringLiteral(HV_STORE_TEST_CHILD), arguments);
     if (!m_process.waitForStarted())

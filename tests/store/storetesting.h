@@ -92,6 +92,7 @@ public:
     void kill() { m_process.kill(); }
 
 private:
+    const Folder m_temporary; // for its temporary files, which it can't tidy up when it is killed
     QProcess m_process;
 };
 
