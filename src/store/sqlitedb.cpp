@@ -106,12 +106,15 @@ void distrust(sqlite3 *handle)
 }
 
 // SQLite counts a statement's steps for as long as the statement is kept, and the index for full
-// texts keeps some of its own: in the end any search would have gone too far.
+// texts keeps some of its own: in the end any search would have gone too far. One that is running
+// counts on, whatever is asked between two of its rows.
 void countStepsAnew(sqlite3 *handle)
 {
     sqlite3_stmt *statement = handle ? sqlite3_next_stmt(handle, nullptr) : nullptr;
-    for (; statement; statement = sqlite3_next_stmt(handle, statement))
-        sqlite3_stmt_status(statement, SQLITE_STMTSTATUS_VM_STEP, true);
+    for (; statement; statement = sqlite3_next_stmt(handle, statement)) {
+        if (!sqlite3_stmt_busy(statement))
+            sqlite3_stmt_status(statement, SQLITE_STMTSTATUS_VM_STEP, true);
+    }
 }
 
 QString decodedText(QByteArrayView bytes)

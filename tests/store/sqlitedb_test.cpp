@@ -553,6 +553,24 @@ TEST(SQLiteDB, CountsStepsFromTheStartOfAStatement)
         ASSERT_EQ(db.query(u"SELECT c0 FROM t WHERE t MATCH 'word'"_s).size(), 1000) << time;
 }
 
+TEST(SQLiteDB, CountsTheStepsOfAStatementOnWhileOthersRun)
+{
+    const SQLiteDB db(u":memory:"_s);
+    int rows = 0;
+    const auto error = errorOf([&] {
+        db.each(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
+                "SELECT i FROM n WHERE i % 10000 = 0"_s,
+            {}, [&](const SQLRow &) {
+                if (rows > 1000)
+                    throw std::runtime_error("no end");
+                rows += db.scalarInt(u"SELECT 1"_s);
+            });
+    });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->sqliteCode(), SQLITE_INTERRUPT);
+    EXPECT_GT(rows, 10);
+}
+
 TEST(SQLiteDB, SortsInMemoryAndNoMoreThanFitsIn)
 {
     const Folder scratch;
