@@ -74,6 +74,9 @@ void requireWritableFiles(const QString &path)
     }
 }
 
+// How often a file that changes meanwhile is looked at.
+constexpr int kMostLooks = 10;
+
 // What tells one state of a file from the next.
 struct Stamp {
     qint64 size;
@@ -265,10 +268,20 @@ void rehearse(const QString &path)
     lookAtTables(path);
 }
 
+// What speaks against opening what is there.
 std::optional<HVError> objectionTo(const QString &path)
 {
     try {
-        rehearse(path);
+        // In this order: a process that is just creating the file writes to it before it has a
+        // "-wal".
+        const bool hasWal = hasContent(path + kWal);
+        if (hasContent(path)) {
+            rehearse(path);
+        } else if (hasWal) {
+            // SQLite deletes the changes that have lost their file. They may be all that is left of
+            // it.
+            throw refusal(u"the file is empty, but changes that belong to it are there"_s);
+        }
         return std::nullopt;
     } catch (const HVError &error) {
         return error;
@@ -317,20 +330,16 @@ std::unique_ptr<UserStore> Store::openProgressFile(const QUrl &url)
     requireWritableFiles(path);
     const OwnersOnly ownersOnly; // copies too
 
-    // In this order: a process that is just creating the file writes to it before it has a "-wal".
-    const bool hasWal = hasContent(path + kWal);
-    if (hasContent(path)) {
-        const QList<Stamp> before = stamps(path);
-        std::optional<HVError> objection = objectionTo(path);
-        // The copy of a file that another process is writing to may be torn. That process writes at
-        // the pace of a person, so the second copy is whole.
-        if (stamps(path) != before)
-            objection = objectionTo(path);
-        if (objection)
-            throw *objection;
-    } else if (hasWal) {
-        // SQLite deletes the changes that have lost their file. They may be all that is left of it.
-        throw refusal(u"the file is empty, but changes that belong to it are there"_s);
+    // The copy of a file that another process is writing to may be torn, and the file itself may be
+    // empty while that process takes back what a killed one has begun. It writes at the pace of a
+    // person, so soon the file holds still.
+    std::optional<HVError> objection;
+    QList<Stamp> before;
+    for (int look = 0; look < kMostLooks && stamps(path) != before; ++look) {
+        before = stamps(path);
+        objection = objectionTo(path);
     }
+    if (objection)
+        throw *objection;
     return openedOrUntouched(url, path);
 }

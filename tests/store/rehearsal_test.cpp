@@ -1,6 +1,7 @@
 #include "store/rehearsal.h"
 
 #include "store/storetesting.h"
+#include "store/watcheddisk.h"
 #include "support/environment.h"
 
 #include <QDir>
@@ -11,6 +12,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <utility>
 
 #ifdef Q_OS_UNIX
 #include "support/filesizelimit.h"
@@ -489,6 +491,24 @@ TEST_F(OpenProgressFile, TakesBackAnUnfinishedChangeAndOpens)
 {
     makeWithHotJournal(path, makeOurs, u"DROP TABLE notes; CREATE TABLE notes (text)"_s);
     EXPECT_EQ(Store::openProgressFile(url)->notes().size(), 20);
+}
+
+// Two launches after one that was killed as it made the file: SQLite lets the first take the file
+// back to nothing, and the second sees it like that.
+TEST_F(OpenProgressFile, OpensWhatAnotherLaunchTakesBackMeanwhile)
+{
+    makeWithHotJournal(
+        path, [](const QString &) {}, u"CREATE TABLE meta (key TEXT, value TEXT)"_s);
+    bool isTakenBack = false;
+    const WatchedDisk disk([&](const DiskOperation &) {
+        if (!std::exchange(isTakenBack, true)) {
+            QFile::resize(path, 0);
+            QFile::remove(path + u"-journal"_s);
+        }
+        return SQLITE_OK;
+    });
+    EXPECT_EQ(errorOf([&] { static_cast<void>(Store::openProgressFile(url)); }), std::nullopt);
+    EXPECT_TRUE(isTakenBack);
 }
 
 TEST_F(OpenProgressFile, AcceptsAForeignDatabaseWithoutAClashingTable)
