@@ -177,6 +177,15 @@ void requireOrdinaryTables(const SQLiteDB &db)
         throw refusal(kEndless);
 }
 
+// The folder for temporary files, if it is there. Beside the file there is room whenever the file
+// itself can grow.
+QStringList placesForCopies(const QString &path)
+{
+    QStringList places{ QDir::tempPath(), QFileInfo(path).absolutePath() };
+    places.removeAll(QString()); // what Qt says where the folder is set to one that isn't there
+    return places;
+}
+
 // A process that is killed as it rehearses leaves a copy of everything that its user has written.
 // Only what a rehearsal makes is taken away, and no sooner than any rehearsal has ended.
 void removeAbandonedCopies(const QString &place)
@@ -245,18 +254,12 @@ void rehearse(const QString &path)
     if (QFileInfo(path).size() < kHeaderSize)
         throw refusal(u"file is not a database"_s);
 
-    // Beside the file there is room whenever the file itself can grow.
-    QStringList places{ QDir::tempPath(), QFileInfo(path).absolutePath() };
-    places.removeAll(QString()); // the folder for temporary files is set to one that isn't there
-    for (const QString &place : places)
-        removeAbandonedCopies(place);
-
     qint64 size = 0;
     for (const Stamp &stamp : stamps(path))
         size += stamp.size;
 
     if (size <= kLargestCopy) {
-        for (const QString &place : places) {
+        for (const QString &place : placesForCopies(path)) {
             try {
                 return rehearseIn(place, path);
             } catch (const HVError &error) {
@@ -328,6 +331,8 @@ std::unique_ptr<UserStore> Store::openProgressFile(const QUrl &url)
         : info.isSymLink()             ? info.symLinkTarget()
                                        : info.filePath();
     requireWritableFiles(path);
+    for (const QString &place : placesForCopies(path))
+        removeAbandonedCopies(place);
     const OwnersOnly ownersOnly; // copies too
 
     // The copy of a file that another process is writing to may be torn, and the file itself may be
