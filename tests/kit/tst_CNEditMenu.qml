@@ -28,6 +28,12 @@ TestCase {
         readOnly: true
         text: "Light is the whole game."
     }
+    TextEdit {
+        id: writing
+        y: 120
+        width: 200
+        height: 60
+    }
     TextEditing {
         id: editing
     }
@@ -92,6 +98,18 @@ TestCase {
         verify(field.text !== typed);
         entry("Redo").action.trigger();
         compare(field.text, typed);
+    }
+
+    // That it can be undone is told in the middle of it, when Qt's text and selection don't agree.
+    function test_lives_through_the_replacement_of_a_selection() {
+        writing.text = "Light\nis the\nwhole\ngame.";
+        editing.text = writing;
+        writing.forceActiveFocus();
+        writing.selectAll();
+        keyClick("x");
+        compare(writing.text, "x");
+        verify(entry("Undo").enabled);
+        verify(!entry("Copy").enabled);
     }
 
     function test_only_copies_what_is_only_read() {

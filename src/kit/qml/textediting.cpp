@@ -14,8 +14,9 @@ void TextEditing::setText(QQuickItem *text)
     m_text = text;
     if (m_text) {
         // The classes are Qt's own, so their signals have to be named.
-        for (const char *signal : { SIGNAL(selectedTextChanged()), SIGNAL(textChanged()),
-                 SIGNAL(canUndoChanged()), SIGNAL(canRedoChanged()), SIGNAL(canPasteChanged()) })
+        for (const char *signal :
+            { SIGNAL(selectionStartChanged()), SIGNAL(selectionEndChanged()), SIGNAL(textChanged()),
+                SIGNAL(canUndoChanged()), SIGNAL(canRedoChanged()), SIGNAL(canPasteChanged()) })
             connect(m_text, signal, this, SIGNAL(changed()));
         connect(m_text, &QObject::destroyed, this, &TextEditing::changed);
     }
@@ -47,9 +48,12 @@ void TextEditing::followFocus()
         setText(nullptr);
 }
 
+// canUndoChanged() comes in the middle of an edit, when the selection may reach beyond what is left
+// of the text. To ask a TextEdit for the selected text then never returns; where the selection
+// begins and ends can always be asked.
 bool TextEditing::canCopy() const
 {
-    return m_text && !m_text->property("selectedText").toString().isEmpty();
+    return m_text && m_text->property("selectionStart") != m_text->property("selectionEnd");
 }
 
 bool TextEditing::canSelectAll() const
