@@ -15,8 +15,9 @@ namespace {
 constexpr int kPebbleStep = 5;
 constexpr double kKnurlStep = 7;
 
-// The tiles of every theme on the finest screen.
-constexpr qsizetype kKeptLeather = 24 * 1024 * 1024;
+// What a change of theme takes on the finest screen: black, white and two tints. More would be kept
+// for zooms and themes that nobody comes back to.
+constexpr qsizetype kKeptLeather = 8 * 1024 * 1024;
 constexpr qsizetype kKeptKnurls = 4 * 1024 * 1024;
 
 // The multiplier and increment are those of D. E. Knuth's MMIX generator; its low bits are weak,
