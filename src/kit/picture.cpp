@@ -62,6 +62,13 @@ private:
 
 } // namespace
 
+QThreadPool &threadPool()
+{
+    QThreadPool &pool = *QThreadPool::globalInstance();
+    pool.setExpiryTimeout(-1);
+    return pool;
+}
+
 std::shared_future<QImage> paintAsync(
     QSize pixels, QSizeF points, std::function<void(QPainter &)> paint)
 {
@@ -72,7 +79,7 @@ std::shared_future<QImage> paintAsync(
         return picture;
     }
 
-    QThreadPool &pool = *QThreadPool::globalInstance();
+    QThreadPool &pool = threadPool();
     const int height = pixels.height();
     const int bands = bandCount(pixels, pool);
     painting->setBands(bands);

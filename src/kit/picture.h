@@ -15,6 +15,11 @@ class QPainter;
 
 namespace Painting {
 
+/// The global pool, with threads that stay for as long as the program runs. One that ended would
+/// take its fonts with it, and the next would open them again. It would also begin in the memory
+/// that some other thread has left, until each such place is as large as any thread ever needed.
+[[nodiscard]] QThreadPool &threadPool();
+
 /// Paints a picture of so many pixels, transparent but for what `paint` paints; edges are
 /// smoothed. The painter counts in points, of which the picture shows `points`; none may be 0 where
 /// there are pixels. A large picture is painted in bands on several threads: `paint` is called for
@@ -37,7 +42,7 @@ template <typename Make>
 {
     using Task = std::packaged_task<std::invoke_result_t<Make>()>;
     const auto task = std::make_shared<Task>(std::move(make));
-    QThreadPool::globalInstance()->start([task] { (*task)(); });
+    threadPool().start([task] { (*task)(); });
     return task->get_future().share();
 }
 

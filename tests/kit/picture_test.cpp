@@ -62,7 +62,13 @@ TEST(StartedPicture, TakesEveryThreadForALargePictureAlone)
     EXPECT_FALSE(painted({ 300, 300 }, { 300, 300 }, count).isNull());
     EXPECT_EQ(calls.exchange(0), 1);
     EXPECT_FALSE(painted({ 4000, 3000 }, { 4000, 3000 }, count).isNull());
-    EXPECT_EQ(calls, QThreadPool::globalInstance()->maxThreadCount());
+    EXPECT_EQ(calls, threadPool().maxThreadCount());
+}
+
+TEST(StartedPicture, IsPaintedByThreadsThatStay)
+{
+    EXPECT_EQ(&threadPool(), QThreadPool::globalInstance());
+    EXPECT_LT(threadPool().expiryTimeout(), 0);
 }
 
 TEST(StartedPicture, IsReadyLaterThanItIsAskedFor)

@@ -164,6 +164,12 @@ TEST(PreviewRenderer, RendersTheLabsPictureByDefault)
     EXPECT_EQ(preview.image(), SceneRenderer::shared().render({}));
 }
 
+TEST(PreviewQueue, KeepsItsThread)
+{
+    EXPECT_LT(previewQueue().expiryTimeout(), 0);
+    EXPECT_LT(thumbQueue().expiryTimeout(), 0);
+}
+
 TEST(PreviewQueue, DoesItsTasksInOrder)
 {
     std::vector<int> done;

@@ -14,6 +14,7 @@ struct Queue : QThreadPool {
     {
         setObjectName(name);
         setMaxThreadCount(1);
+        setExpiryTimeout(-1); // The thread keeps its working memory.
     }
 };
 
