@@ -4,6 +4,7 @@
 #include "kit/themes.h"
 #include "shell/appmodel.h"
 #include "shell/launch/savepanel.h"
+#include "store/userstore.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -85,13 +86,15 @@ const QList<Key> kKeys{
 const QStringList kWords{ u"lens "_s, u"f/1.8"_s, u"tripod "_s, u"<b>bold</b>"_s, u"50mm "_s,
     u"déjà vu "_s, u"Ω≈ç√ "_s, u"写真 "_s, u"الضوء "_s, u"👩‍👩‍👧 "_s, u"%1 %n "_s,
     u"\"quote "_s, u"NEAR AND OR "_s, u"* "_s, u"'); DROP TABLE notes; "_s, u"ﬁlm "_s,
-    u"a\u0301 "_s, QString(300, u'm') };
+    u"a\u0301 "_s, u"Light\nis the whole\n\ngame. "_s, QString(300, u'm') };
 
 // ms between two strokes of a held key, two notches of a wheel that is spun, two moves of a
 // pointer.
 constexpr int kKeyRepeat = 30;
 constexpr int kNotch = 10;
 constexpr int kMove = 10;
+// ms until a panel has opened, and more.
+constexpr int kOpening = 400;
 
 // The nearest place in a window, which may have been resized since the place was chosen.
 QPoint inside(const QWindow *window, QPoint place)
@@ -384,15 +387,36 @@ void Monkey::openSomething()
 
 void Monkey::writeNote()
 {
-    const int what = upTo(3);
+    const int what = upTo(4);
     note(u"note %1"_s.arg(what));
     AppModel &model = AppModel::shared();
     if (what == 0)
         return model.exportNotes();
-    if (!model.editsNote())
-        model.newNote(u"general"_s, u"general"_s);
-    else
+    if (model.editsNote())
         QTest::keyClick(window(), Qt::Key_S, Qt::ControlModifier);
+    else if (what == 1)
+        rewriteNote();
+    else
+        model.newNote(u"general"_s, u"general"_s);
+}
+
+// All of a saved note is selected and written over. By chance alone these strokes hardly ever come
+// one after another.
+void Monkey::rewriteNote()
+{
+    const UserStore *store = UserStore::shared();
+    const QList<Note> notes = store ? store->notes() : QList<Note>();
+    if (notes.isEmpty())
+        return;
+    const Note chosen = any(notes);
+    note(u"rewrite %1"_s.arg(chosen.id));
+    AppModel::shared().setNoteDraft(chosen);
+    static const QList<Key> strokes{ { Qt::Key_A, Qt::ControlModifier }, { Qt::Key_X },
+        { Qt::Key_Z, Qt::ControlModifier }, { Qt::Key_S, Qt::ControlModifier } };
+    inTurn(int(strokes.size()) + 1, kOpening, [this](int turn) {
+        if (turn > 0)
+            strike(strokes.at(turn - 1).key, strokes.at(turn - 1).modifiers);
+    });
 }
 
 // The platform's dialog, left at once, or a name: a good one, one in a folder that isn't there, one

@@ -59,6 +59,7 @@ private:
     void useMenu();
     void openSomething();
     void writeNote();
+    void rewriteNote();
     [[nodiscard]] std::optional<QString> chooseFile(const QString &suggestedName);
 
     QQuickWindow *m_camera;
