@@ -135,10 +135,9 @@ QImage softBlur(const QImage &mask, double radius, const QColor &color)
     return result;
 }
 
-std::shared_future<ShadowPatch> shadowPatchAsync(
-    QSize size, int cornerRadius, int blurRadius, const QColor &color)
+NinePatch shadowPatchAsync(QSize size, int cornerRadius, int blurRadius, const QColor &color)
 {
-    static PictureCache<PatchKey, std::shared_future<ShadowPatch>> patches(kKeptBytes);
+    static PictureCache<PatchKey, std::shared_future<QImage>> pictures(kKeptBytes);
 
     // A continuous corner eases over 1.6 radii, and the blur reaches inwards as far as outwards:
     // in the middle of a side longer than twice that, nothing changes along it.
@@ -151,12 +150,12 @@ std::shared_future<ShadowPatch> shadowPatchAsync(
 
     const PatchKey key{ shape, cornerRadius, blurRadius, color.rgba() };
     const QSize pixels = shape.grownBy({ blurRadius, blurRadius, blurRadius, blurRadius });
-    return patches.picture(key, qsizetype(4) * pixels.width() * pixels.height(), [=] {
-        return runAsync([=] {
-            const QImage mask = roundedMask(shape, cornerRadius, blurRadius);
-            return ShadowPatch{ softBlur(mask, blurRadius, color), sideBorder, endBorder };
-        });
-    });
+    const auto make
+        = [=] { return softBlur(roundedMask(shape, cornerRadius, blurRadius), blurRadius, color); };
+    return { .picture = pictures.picture(key, qsizetype(4) * pixels.width() * pixels.height(),
+                 [&] { return runAsync(make); }),
+        .sideBorder = sideBorder,
+        .endBorder = endBorder };
 }
 
 } // namespace Painting

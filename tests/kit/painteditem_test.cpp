@@ -1,12 +1,15 @@
 // Pictures on the screen: pixel for pixel at every magnification.
 
 #include "kit/qml/continuousrectangle.h"
+#include "kit/qml/painteditem.h"
 #include "kit/qml/softshadow.h"
 
+#include "kit/gradients.h"
 #include "kit/preferences.h"
 #include "kit/printing.h"
 #include "kit/zoom.h"
 
+#include <QPainter>
 #include <QQuickWindow>
 
 #include <gtest/gtest.h>
@@ -160,6 +163,37 @@ TEST_P(PaintedItemTest, LooksTheSameAfterAMoveByAFraction)
     }
 }
 
+TEST_P(PaintedItemTest, LooksAsIfItHadBeenPaintedWhole)
+{
+    const double scale = GetParam() / 100.0;
+    magnify(scale);
+    item().setFillFrom(QColor(0, 0, 0, 60));
+    for (const bool isFlat : { true, false }) {
+        item().setFillTo(isFlat ? QColor() : QColor(0, 0, 0, 200));
+        for (const double radius : { 0.0, 9.0, 60.0 }) {
+            item().setRadius(radius);
+            for (const QSizeF size : { QSizeF(300.9, 211.6), QSizeF(310.3, 24), QSizeF(31, 200) }) {
+                stand({ { 20.3, 30.8 }, size });
+                const QRectF area({}, size);
+                const QImage shape = shapeIn(picture());
+                QImage whole(shape.size(), QImage::Format_RGB32);
+                whole.fill(Qt::white);
+                QPainter painter(&whole);
+                painter.scale(whole.width() / size.width(), whole.height() / size.height());
+                Painting::paintPanel(painter, area,
+                    { .radius = radius,
+                        .fill = Painting::verticalBrush(area, QColor(0, 0, 0, 60), {},
+                            isFlat ? QColor() : QColor(0, 0, 0, 200)),
+                        .stroke = QColor(Qt::black),
+                        .strokeWidth = 1 });
+                painter.end();
+                EXPECT_LE(largestDifference(shape, whole), 2)
+                    << isFlat << ' ' << radius << ' ' << size.width();
+            }
+        }
+    }
+}
+
 TEST_P(PaintedItemTest, StandsWithinHalfAPixelOfItsPlace)
 {
     const double scale = GetParam() / 100.0;
@@ -186,7 +220,9 @@ TEST_P(PaintedItemTest, FollowsTheScaleOfEveryAncestor)
     item().setParentItem(&middle);
     magnify(scale);
     const QSize expected = (QSizeF(96, 48) * scale * 1.5).toSize();
-    EXPECT_EQ(item().textureSize(), expected);
+    PaintedItem painted(&middle);
+    painted.setSize({ 96, 48 });
+    EXPECT_EQ(painted.textureSize(), expected);
     const QImage shape = shapeIn(picture());
     EXPECT_EQ(shape.size(), expected);
     EXPECT_LE(largestDifference(shape, shape.mirrored(true, true)), kRasterLevels);
@@ -196,8 +232,9 @@ TEST_P(PaintedItemTest, FollowsTheScaleOfEveryAncestor)
 TEST_P(PaintedItemTest, OutsideAMagnifiedTreeHasThePixelsThatItCovers)
 {
     CNZoom::setValue(GetParam() / 100.0);
-    stand({ 10, 10, 100, 50 });
-    EXPECT_EQ(item().textureSize(), QSize(100, 50));
+    PaintedItem painted(stage());
+    painted.setSize({ 100, 50 });
+    EXPECT_EQ(painted.textureSize(), QSize(100, 50));
     CNZoom::setValue(1);
 }
 

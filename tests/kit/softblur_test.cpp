@@ -17,9 +17,16 @@ namespace {
 // Six passes, three along each axis, each round by up to half a level.
 constexpr int kRoundingLevels = 3;
 
+struct ShadowPatch {
+    QImage image;
+    int sideBorder;
+    int endBorder;
+};
+
 ShadowPatch shadowPatch(QSize size, int cornerRadius, int blurRadius, const QColor &color)
 {
-    return shadowPatchAsync(size, cornerRadius, blurRadius, color).get();
+    const NinePatch patch = shadowPatchAsync(size, cornerRadius, blurRadius, color);
+    return { patch.picture.get(), patch.sideBorder, patch.endBorder };
 }
 
 QImage blank(QSize size)

@@ -256,7 +256,7 @@ TestCase {
 
     function test_painted_items_get_the_pixels_that_they_cover() {
         const item = host(1000, 700, "100%");
-        const capsule = createTemporaryQmlObject("import Halvorin.Kit; ContinuousRectangle { width: 40; height: 20 }", item.page);
+        const capsule = createTemporaryQmlObject("import Halvorin.Kit; Symbol { width: 40; height: 20 }", item.page);
         compare(capsule.textureSize, Qt.size(40, 20));
         ZoomControl.chooseLevel(ZoomControl.levelTitles.indexOf("200%"));
         compare(capsule.textureSize, Qt.size(80, 40));

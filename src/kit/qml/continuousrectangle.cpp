@@ -1,9 +1,10 @@
 #include "continuousrectangle.h"
 
 #include "kit/gradients.h"
+#include "kit/picture.h"
 #include "kit/picturecache.h"
 
-#include <QPainter>
+#include <QtMath>
 
 #include <array>
 
@@ -32,29 +33,38 @@ size_t qHash(const Look &look, size_t seed = 0)
 
 } // namespace
 
-void ContinuousRectangle::paint(QPainter *painter)
-{
-    const QRectF area = boundingRect();
-    paintPanel(*painter, area,
-        {
-            .radius = m_radius,
-            .fill = verticalBrush(area, m_fillFrom, m_fillVia, m_fillTo),
-            .stroke = verticalBrush(area, m_strokeFrom, {}, m_strokeTo),
-            .strokeWidth = m_strokeWidth,
-        });
-}
-
-std::shared_future<QImage> ContinuousRectangle::paintAsync()
+Painting::NinePatch ContinuousRectangle::patchAsync() const
 {
     // Buttons of a rail and cards of a grid look alike, so most rectangles are there already, or
     // are being painted.
     static PictureCache<Look, std::shared_future<QImage>> pictures(kKeptBytes);
 
+    // Between its corners, which ease over 1.6 radii, a rectangle looks the same from left to
+    // right, and without a gradient from top to bottom too.
+    const double radius = qMin(m_radius, qMin(width(), height()) / 2);
+    const int corner = qCeil((1.6 * radius + m_strokeWidth) * renderScale()) + 1;
+    const int longest = 2 * corner + 1;
+    const bool isFlat = !m_fillTo.isValid() && !m_strokeTo.isValid();
+    const QSize pixels = deviceSize();
+    const QSize shape = pixels.boundedTo({ longest, isFlat ? longest : pixels.height() });
+    const QSizeF points(
+        width() * shape.width() / pixels.width(), height() * shape.height() / pixels.height());
+
     const Look look{
-        .pixels = textureSize(),
-        .measures = { width(), height(), m_radius, m_strokeWidth },
+        .pixels = shape,
+        .measures = { points.width(), points.height(), m_radius, m_strokeWidth },
         .colors = { m_fillFrom, m_fillVia, m_fillTo, m_strokeFrom, m_strokeTo },
     };
-    return pictures.picture(look, qsizetype(4) * look.pixels.width() * look.pixels.height(),
-        [this] { return PaintedItem::paintAsync(); });
+    const QRectF area({}, points);
+    const PanelStyle style{
+        .radius = m_radius,
+        .fill = verticalBrush(area, m_fillFrom, m_fillVia, m_fillTo),
+        .stroke = verticalBrush(area, m_strokeFrom, {}, m_strokeTo),
+        .strokeWidth = m_strokeWidth,
+    };
+    const auto paint = [area, style](QPainter &painter) { paintPanel(painter, area, style); };
+    return { .picture = pictures.picture(look, qsizetype(4) * shape.width() * shape.height(),
+                 [&] { return paintAsync(shape, points, paint); }),
+        .sideBorder = shape.width() < pixels.width() ? corner : 0,
+        .endBorder = shape.height() < pixels.height() ? corner : 0 };
 }

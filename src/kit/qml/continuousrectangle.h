@@ -1,6 +1,6 @@
 #pragma once
 
-#include "painteditem.h"
+#include "ninepatchitem.h"
 
 #include <QColor>
 
@@ -10,7 +10,7 @@
 /// `fillTo`; without `fillTo` the fill is flat. The edge does the same with `strokeFrom` and
 /// `strokeTo`, and is absent while `strokeWidth` is 0. A radius of half the height or more gives
 /// a capsule.
-class ContinuousRectangle : public PaintedItem
+class ContinuousRectangle : public NinePatchItem
 {
     Q_OBJECT
     QML_ELEMENT
@@ -22,7 +22,7 @@ class ContinuousRectangle : public PaintedItem
     Q_PROPERTY(QColor strokeTo MEMBER m_strokeTo WRITE setStrokeTo NOTIFY lookChanged)
     Q_PROPERTY(qreal strokeWidth MEMBER m_strokeWidth WRITE setStrokeWidth NOTIFY lookChanged)
 public:
-    using PaintedItem::PaintedItem;
+    using NinePatchItem::NinePatchItem;
 
     void setRadius(qreal radius) { set(m_radius, radius); }
     void setFillFrom(const QColor &color) { set(m_fillFrom, color); }
@@ -32,10 +32,8 @@ public:
     void setStrokeTo(const QColor &color) { set(m_strokeTo, color); }
     void setStrokeWidth(qreal width) { set(m_strokeWidth, width); }
 
-    void paint(QPainter *painter) override;
-
 protected:
-    [[nodiscard]] std::shared_future<QImage> paintAsync() override;
+    [[nodiscard]] Painting::NinePatch patchAsync() const override;
 
 private:
     qreal m_radius = 0;

@@ -1,17 +1,14 @@
 #pragma once
 
-#include "prepareditem.h"
-
-#include "kit/softblur.h"
+#include "ninepatchitem.h"
 
 #include <QColor>
 
 /// The soft shadow, or glow, of a rounded rectangle as large as this item.
 ///
-/// It spreads `blur` beyond the item on all sides and takes no clicks. Shown as a nine-patch of a
-/// small picture that was blurred once: what it costs to show grows with its area, what it costs to
-/// make doesn't. It looks the same with and without a graphics processor.
-class SoftShadow : public PreparedItem
+/// It spreads `blur` beyond the item on all sides and takes no clicks. It looks the same with and
+/// without a graphics processor.
+class SoftShadow : public NinePatchItem
 {
     Q_OBJECT
     QML_ELEMENT
@@ -21,23 +18,18 @@ class SoftShadow : public PreparedItem
     /// Reach of the blur, at least 0.
     Q_PROPERTY(qreal blur MEMBER m_blur WRITE setBlur NOTIFY lookChanged)
 public:
-    using PreparedItem::PreparedItem;
+    using NinePatchItem::NinePatchItem;
 
     void setColor(const QColor &color) { set(m_color, color); }
     void setRadius(qreal radius) { set(m_radius, radius); }
     void setBlur(qreal blur) { set(m_blur, blur); }
 
 protected:
-    void prepare() override;
-    void settle() override;
-    QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *data) override;
-    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+    [[nodiscard]] bool isSeen() const override;
+    [[nodiscard]] Painting::NinePatch patchAsync() const override;
+    [[nodiscard]] int reach() const override;
 
 private:
-    [[nodiscard]] bool isSeen() const;
-    [[nodiscard]] std::shared_future<Painting::ShadowPatch> blurAsync() const;
-
-    std::shared_future<Painting::ShadowPatch> m_patch; ///< Until updatePaintNode() takes it.
     QColor m_color = Qt::black;
     qreal m_radius = 0;
     qreal m_blur = 0;

@@ -1,0 +1,92 @@
+#include "ninepatchitem.h"
+
+#include <QMatrix4x4>
+#include <QQuickWindow>
+#include <QSGNinePatchNode>
+#include <QSGTransformNode>
+
+#include <utility>
+
+namespace {
+
+// Counts in device pixels: a nine-patch in logical units would have its seams between pixels at
+// most zooms, and they would be seen.
+class Node : public QSGTransformNode
+{
+public:
+    explicit Node(QQuickWindow *window)
+        : m_patch(window->createNinePatchNode())
+    {
+        appendChildNode(m_patch);
+    }
+
+    void setPatch(QSGTexture *texture, const Painting::NinePatch &patch, const QRect &bounds)
+    {
+        m_patch->setTexture(texture); // owned by the node
+        m_patch->setBounds(bounds);
+        m_patch->setPadding(patch.sideBorder, patch.endBorder, patch.sideBorder, patch.endBorder);
+        m_patch->update();
+    }
+
+    // Where a device pixel is in the item's coordinates.
+    void setUnit(const QRectF &pixel)
+    {
+        QMatrix4x4 matrix;
+        matrix.translate(float(pixel.x()), float(pixel.y()));
+        matrix.scale(float(pixel.width()), float(pixel.height()));
+        if (matrix != this->matrix())
+            setMatrix(matrix);
+    }
+
+private:
+    QSGNinePatchNode *m_patch;
+};
+
+} // namespace
+
+void NinePatchItem::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    PreparedItem::geometryChange(newGeometry, oldGeometry);
+    if (newGeometry.size() != oldGeometry.size())
+        repaint();
+}
+
+bool NinePatchItem::isSeen() const
+{
+    return isVisible() && !deviceSize().isEmpty();
+}
+
+void NinePatchItem::prepare()
+{
+    if (isSeen())
+        m_patch = patchAsync();
+}
+
+void NinePatchItem::settle()
+{
+    if (m_patch.picture.valid())
+        std::exchange(m_patch, {}).picture.wait();
+}
+
+QSGNode *NinePatchItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
+{
+    if (!isSeen()) {
+        delete old;
+        return nullptr;
+    }
+    auto *node = static_cast<Node *>(old);
+    if (!node) {
+        node = new Node(window());
+        if (!m_patch.picture.valid())
+            m_patch = patchAsync();
+    }
+    if (m_patch.picture.valid()) { // or else the item has only been moved
+        const Painting::NinePatch patch = std::exchange(m_patch, {});
+        QSGTexture *texture = window()->createTextureFromImage(patch.picture.get());
+        texture->setFiltering(isUpright() ? QSGTexture::Nearest : QSGTexture::Linear);
+        const int by = reach();
+        node->setPatch(texture, patch, QRect({}, deviceSize()).adjusted(-by, -by, by, by));
+    }
+    node->setUnit(onDevice({ 0, 0, 1, 1 }));
+    return node;
+}
