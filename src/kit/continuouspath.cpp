@@ -46,6 +46,11 @@ void appendCorner(QPainterPath &path, const QTransform &place, double radius, do
 
 } // namespace
 
+double cornerReach(double radius)
+{
+    return (1 + kSmoothing) * radius;
+}
+
 QPainterPath continuousPath(const QRectF &rect, double radius)
 {
     QPainterPath path;
@@ -58,7 +63,7 @@ QPainterPath continuousPath(const QRectF &rect, double radius)
         path.addRect(rect);
         return path;
     }
-    const double reach = std::min((1 + kSmoothing) * r, room);
+    const double reach = std::min(cornerReach(r), room);
 
     const struct {
         QPointF point;

@@ -7,9 +7,12 @@
 
 namespace Painting {
 
+/// How far along a side a corner of `radius` eases, where there is room: 1.6 radii.
+[[nodiscard]] double cornerReach(double radius);
+
 /// The outline of `rect` with continuous corners of `radius`, in the units of `rect`.
 ///
-/// Each corner is an arc flanked by two cubic curves and takes up to 1.6 · radius of each side.
+/// Each corner is an arc flanked by two cubic curves and takes cornerReach() of each side.
 /// Where a side is too short for that the corner tends to a plain arc, so a radius of half the
 /// shorter side gives a capsule or a circle; a larger radius gives the same. An empty rectangle
 /// gives an empty path.

@@ -139,9 +139,9 @@ NinePatch shadowPatchAsync(QSize size, int cornerRadius, int blurRadius, const Q
 {
     static PictureCache<PatchKey, std::shared_future<QImage>> pictures(kKeptBytes);
 
-    // A continuous corner eases over 1.6 radii, and the blur reaches inwards as far as outwards:
-    // in the middle of a side longer than twice that, nothing changes along it.
-    const int corner = int(std::ceil(1.6 * cornerRadius)) + blurRadius;
+    // The blur reaches inwards as far as outwards: in the middle of a side longer than twice that
+    // and the corner's reach, nothing changes along it.
+    const int corner = int(std::ceil(cornerReach(cornerRadius))) + blurRadius;
     const int longest = 2 * corner + 1;
     const QSize shape = size.boundedTo({ longest, longest });
     const int border = corner + blurRadius;

@@ -1,5 +1,6 @@
 #include "continuousrectangle.h"
 
+#include "kit/continuouspath.h"
 #include "kit/gradients.h"
 #include "kit/picture.h"
 #include "kit/picturecache.h"
@@ -39,10 +40,10 @@ Painting::NinePatch ContinuousRectangle::patchAsync() const
     // are being painted.
     static PictureCache<Look, std::shared_future<QImage>> pictures(kKeptBytes);
 
-    // Between its corners, which ease over 1.6 radii, a rectangle looks the same from left to
-    // right, and without a gradient from top to bottom too.
+    // Between its corners a rectangle looks the same from left to right, and without a gradient
+    // from top to bottom too.
     const double radius = qMin(m_radius, qMin(width(), height()) / 2);
-    const int corner = qCeil((1.6 * radius + m_strokeWidth) * renderScale()) + 1;
+    const int corner = qCeil((cornerReach(radius) + m_strokeWidth) * renderScale()) + 1;
     const int longest = 2 * corner + 1;
     const bool isFlat = !m_fillTo.isValid() && !m_strokeTo.isValid();
     const QSize pixels = deviceSize();
