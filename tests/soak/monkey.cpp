@@ -163,7 +163,7 @@ void Monkey::act()
 void Monkey::note(const QString &action)
 {
     m_last = action;
-    m_journal.write(QByteArray::number(m_actions) + ' ' + action.toUtf8() + '\n');
+    m_journal.write(QByteArray::number(m_actions) + ' ' + action.simplified().toUtf8() + '\n');
 }
 
 int Monkey::upTo(int most)
