@@ -4,13 +4,11 @@
 #include "camera/textures.h"
 #include "kit/continuouspath.h"
 #include "kit/gradients.h"
-#include "kit/picture.h"
 
 #include <QLinearGradient>
 #include <QPainter>
 
 using namespace Painting;
-using namespace CameraBody;
 
 namespace {
 
@@ -56,20 +54,16 @@ QImage reliefTile(const HVColors &c, double scale)
     return tile;
 }
 
-void paint(QPainter &painter, const Body &body)
-{
-    const QRectF area({}, body.size);
-    const double scale = body.pixels.width() / body.size.width();
-    const HVColors &c = body.colors;
-    // What covers the body may be shown up to a pixel beside its place.
-    const QRect hidden = inset(body.display, 1).toRect();
-    painter.setClipRegion(QRegion(area.toAlignedRect()) - QRegion(hidden));
+} // namespace
 
+void CameraBody::paintBody(QPainter &painter, QSizeF size, const HVColors &c)
+{
+    const QRectF area({}, size);
     const QPainterPath metal = continuousPath(area, Geometry::bodyRadius);
     painter.fillPath(metal, verticalBrush(area, c.bodyHi(), c.body(), c.bodyLo()));
 
     painter.fillPath(continuousPath(inset(area, Geometry::leatherInset), Geometry::leatherRadius),
-        reliefTile(c, scale));
+        reliefTile(c, painter.deviceTransform().m11()));
 
     paintPanel(painter, area,
         {
@@ -79,11 +73,10 @@ void paint(QPainter &painter, const Body &body)
         });
 }
 
-void paint(QPainter &painter, const Glass &look)
+void CameraBody::paintGlass(QPainter &painter, QSizeF size, const HVColors &c)
 {
-    const QRectF area({}, look.size);
+    const QRectF area({}, size);
     const QRectF glass = inset(area, Geometry::bezel);
-    const HVColors &c = look.colors;
 
     painter.fillPath(ring(area, Geometry::bezelRadius, Geometry::bezel, Geometry::glassRadius),
         verticalBrush(area, c.bodyLo(), {}, gray(0.12)));
@@ -102,18 +95,4 @@ void paint(QPainter &painter, const Glass &look)
             .fill = sheen,
             .stroke = c.glassEdge(),
             .strokeWidth = 1 });
-}
-
-} // namespace
-
-std::shared_future<QImage> CameraBody::paintAsync(const Body &body)
-{
-    return Painting::paintAsync(
-        body.pixels, body.size, [body](QPainter &painter) { paint(painter, body); });
-}
-
-std::shared_future<QImage> CameraBody::paintAsync(const Glass &glass)
-{
-    return Painting::paintAsync(
-        glass.pixels, glass.size, [glass](QPainter &painter) { paint(painter, glass); });
 }

@@ -1,33 +1,20 @@
-// The camera's two large surfaces, each a picture of several megabytes.
+// The camera's two large surfaces.
 #pragma once
 
 #include "camera/hvcolors.h"
 
-#include <QImage>
-#include <QRectF>
-#include <QSize>
+#include <QSizeF>
 
-#include <future>
+class QPainter;
 
 namespace CameraBody {
 
-struct Body {
-    QSizeF size;    ///< Points.
-    QRectF display; ///< What something opaque covers; it isn't painted.
-    HVColors colors;
-    QSize pixels;
-};
-
-struct Glass {
-    QSizeF size; ///< Points.
-    HVColors colors;
-    QSize pixels;
-};
+// Both paint in points, over an area of `size` at the origin. Safe on any thread.
 
 /// Paints metal, leather and a lit edge.
-[[nodiscard]] std::shared_future<QImage> paintAsync(const Body &body);
+void paintBody(QPainter &painter, QSizeF size, const HVColors &colors);
 
-/// Paints bezel, inner glow and the sheen of the glass.
-[[nodiscard]] std::shared_future<QImage> paintAsync(const Glass &glass);
+/// Paints the display's bezel, its inner glow and the sheen of its glass.
+void paintGlass(QPainter &painter, QSizeF size, const HVColors &colors);
 
 } // namespace CameraBody

@@ -1,6 +1,7 @@
 #include "kit/picture.h"
 
 #include <QPainter>
+#include <QTransform>
 
 #include <algorithm>
 #include <atomic>
@@ -20,10 +21,13 @@ int bandCount(QSize size, const QThreadPool &pool)
 class PictureInBands
 {
 public:
-    PictureInBands(QSize pixels, QSizeF points, std::function<void(QPainter &)> paint)
-        : m_picture(pixels, QImage::Format_ARGB32_Premultiplied)
+    PictureInBands(
+        QSize whole, QSizeF points, const QRect &part, std::function<void(QPainter &)> paint)
+        : m_picture(part.size(), QImage::Format_ARGB32_Premultiplied)
         , m_bits(m_picture.bits())
-        , m_points(points)
+        , m_origin(part.topLeft())
+        , m_scale(QTransform::fromScale(
+              whole.width() / points.width(), whole.height() / points.height()))
         , m_paint(std::move(paint))
     { }
 
@@ -47,14 +51,15 @@ private:
         band.fill(Qt::transparent);
         QPainter painter(&band);
         painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-        painter.translate(0, -from);
-        painter.scale(m_picture.width() / m_points.width(), m_picture.height() / m_points.height());
+        painter.translate(-m_origin.x(), -m_origin.y() - from);
+        painter.setTransform(m_scale, true);
         m_paint(painter);
     }
 
     QImage m_picture;
     uchar *m_bits; ///< nullptr where there are no pixels.
-    QSizeF m_points;
+    QPoint m_origin;
+    QTransform m_scale; ///< From points to pixels.
     std::function<void(QPainter &)> m_paint;
     std::atomic<int> m_bandsLeft = 0;
     std::promise<QImage> m_done;
@@ -72,7 +77,13 @@ QThreadPool &threadPool()
 std::shared_future<QImage> paintAsync(
     QSize pixels, QSizeF points, std::function<void(QPainter &)> paint)
 {
-    const auto painting = std::make_shared<PictureInBands>(pixels, points, std::move(paint));
+    return paintPartAsync(pixels, points, { {}, pixels }, std::move(paint));
+}
+
+std::shared_future<QImage> paintPartAsync(
+    QSize pixels, QSizeF points, const QRect &part, std::function<void(QPainter &)> paint)
+{
+    const auto painting = std::make_shared<PictureInBands>(pixels, points, part, std::move(paint));
     std::shared_future<QImage> picture = painting->future();
     if (painting->isNull()) {
         painting->finish();
@@ -80,8 +91,8 @@ std::shared_future<QImage> paintAsync(
     }
 
     QThreadPool &pool = threadPool();
-    const int height = pixels.height();
-    const int bands = bandCount(pixels, pool);
+    const int height = part.height();
+    const int bands = bandCount(part.size(), pool);
     painting->setBands(bands);
     for (int band = 0; band < bands; ++band) {
         pool.start([painting, from = band * height / bands, to = (band + 1) * height / bands] {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QImage>
+#include <QRect>
 #include <QSize>
 #include <QThreadPool>
 
@@ -34,6 +35,11 @@ namespace Painting {
 /// what is mostly text is better painted without this.
 [[nodiscard]] std::shared_future<QImage> paintAsync(
     QSize pixels, QSizeF points, std::function<void(QPainter &)> paint);
+
+/// The same of one part of the picture, a rectangle of its pixels: parts beside one another are
+/// what the whole would be. `paint` paints the whole, on a painter that takes in the part.
+[[nodiscard]] std::shared_future<QImage> paintPartAsync(
+    QSize pixels, QSizeF points, const QRect &part, std::function<void(QPainter &)> paint);
 
 /// Calls `make` where pictures are painted, for one that is made by other means than a painter, and
 /// answers with the future of what it returns. It must not wait for another of them.

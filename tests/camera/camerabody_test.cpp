@@ -18,9 +18,12 @@ QList<CRVNTheme> themes()
 
 QImage body(const HVColors &colors)
 {
-    return CameraBody::paintAsync(
-        CameraBody::Body{ .size = kSize, .display = {}, .colors = colors, .pixels = kSize })
-        .get();
+    QImage picture(kSize, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    CameraBody::paintBody(painter, kSize, colors);
+    return picture;
 }
 
 // The body without its leather.

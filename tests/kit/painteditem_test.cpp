@@ -1,5 +1,6 @@
 // Pictures on the screen: pixel for pixel at every magnification.
 
+#include "kit/qml/continuousframe.h"
 #include "kit/qml/continuousrectangle.h"
 #include "kit/qml/painteditem.h"
 #include "kit/qml/softshadow.h"
@@ -103,6 +104,29 @@ private:
     ContinuousRectangle m_item;
 };
 
+/// Lines in all directions, but for a part.
+class Lines : public PaintedItem
+{
+public:
+    using PaintedItem::PaintedItem;
+
+    void leaveOut(const QRectF &part) { set(m_leftOut, part); }
+
+    void paint(QPainter *painter) override
+    {
+        for (double at = 0; at < width(); at += 7.3) {
+            painter->drawLine(QPointF(at, 0), QPointF(width() - at, height()));
+            painter->drawLine(QPointF(0, at), QPointF(width(), height() - at));
+        }
+    }
+
+protected:
+    [[nodiscard]] QRectF leftOut() const override { return m_leftOut; }
+
+private:
+    QRectF m_leftOut;
+};
+
 class ShadowTest : public Magnified
 {
 };
@@ -194,6 +218,33 @@ TEST_P(PaintedItemTest, LooksAsIfItHadBeenPaintedWhole)
     }
 }
 
+TEST_P(PaintedItemTest, LooksTheSameAroundWhatItLeavesOut)
+{
+    const double scale = GetParam() / 100.0;
+    magnify(scale);
+    const QRectF area(20.3, 30.8, 310.4, 240.7);
+    Lines lines(stage());
+    lines.setPosition(area.topLeft());
+    lines.setSize(area.size());
+    const QImage whole = picture();
+    for (const QRectF part : { QRectF(60.2, 50.9, 200.3, 150.1), QRectF(0, 40, 310.4, 100),
+             QRectF(-50, -50, 200, 200), QRectF(300, 230, 10.4, 10.7) }) {
+        lines.leaveOut(part);
+        const QImage around = picture();
+        const QRectF hole((area.topLeft() + part.topLeft()) * scale, part.size() * scale);
+        const QRect emptied = hole.adjusted(3, 3, -3, -3).toRect() & extent(whole);
+        for (int y = 0; y < whole.height(); ++y) {
+            for (int x = 0; x < whole.width(); ++x) {
+                if (emptied.contains(x, y)) {
+                    ASSERT_EQ(darkness(around, x, y), 0) << x << ", " << y;
+                } else if (!hole.contains(x + 0.5, y + 0.5)) {
+                    ASSERT_EQ(around.pixel(x, y), whole.pixel(x, y)) << x << ", " << y;
+                }
+            }
+        }
+    }
+}
+
 TEST_P(PaintedItemTest, StandsWithinHalfAPixelOfItsPlace)
 {
     const double scale = GetParam() / 100.0;
@@ -255,6 +306,28 @@ TEST_F(PaintedItemTest, SurvivesBeingShrunkToNothingTurnedAndMirrored)
     EXPECT_EQ(extent(picture()), usual);
     item().setRotation(90);
     EXPECT_TRUE(extent(picture()).contains(QRect(112, 92, 36, 56)));
+}
+
+TEST_P(PaintedItemTest, AFrameHasFourCornersAndARim)
+{
+    const double scale = GetParam() / 100.0;
+    magnify(scale);
+    ContinuousFrame frame(stage());
+    frame.setPosition({ 20.3, 30.8 });
+    frame.setSize({ 301.2, 200.6 });
+    frame.setRadius(14);
+    frame.setGround(QColor(200, 30, 30));
+    frame.setRim(Qt::black);
+    frame.setRimWidth(1);
+    const QImage shown = picture();
+    const QImage shape = shapeIn(shown);
+    EXPECT_LE(largestDifference(shape, shape.mirrored(true, false)), kRasterLevels);
+    EXPECT_LE(largestDifference(shape, shape.mirrored(false, true)), kRasterLevels);
+    EXPECT_EQ(shape.pixelColor(0, 0), QColor(200, 30, 30));
+    EXPECT_GT(darkness(shape, shape.width() / 2, 0), 180);
+    EXPECT_GT(darkness(shape, 0, shape.height() / 2), 180);
+    for (const QPoint at : { QPoint(40, 40), QPoint(40, 5), QPoint(5, 40) })
+        EXPECT_EQ(darkness(shape, int(at.x() * scale), int(at.y() * scale)), 0) << at.x();
 }
 
 TEST_P(ShadowTest, HasNoSeamAnywhere)

@@ -55,6 +55,18 @@ TEST(StartedPicture, IsPaintedInPoints)
         EXPECT_EQ(painted(pixels, { 100, 100 }, paintTarget), paintedPlainly(pixels, { 100, 100 }));
 }
 
+TEST(StartedPicture, IsTheSameInParts)
+{
+    const QSize pixels(1500, 1200);
+    const QSize points(100, 100);
+    const QImage whole = paintedPlainly(pixels, points);
+    for (const QRect part : { QRect(0, 0, 1500, 1200), QRect(0, 0, 37, 1200),
+             QRect(411, 203, 1089, 700), QRect(1499, 1199, 1, 1) }) {
+        EXPECT_EQ(paintPartAsync(pixels, points, part, paintTarget).get(), whole.copy(part))
+            << part.width();
+    }
+}
+
 TEST(StartedPicture, TakesEveryThreadForALargePictureAlone)
 {
     std::atomic<int> calls = 0;

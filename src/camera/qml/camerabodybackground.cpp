@@ -2,8 +2,7 @@
 
 #include "camera/camerabody.h"
 
-std::shared_future<QImage> CameraBodyBackground::paintAsync()
+void CameraBodyBackground::paint(QPainter *painter)
 {
-    return CameraBody::paintAsync(CameraBody::Body{
-        .size = size(), .display = m_display, .colors = c(), .pixels = textureSize() });
+    CameraBody::paintBody(*painter, size(), c());
 }

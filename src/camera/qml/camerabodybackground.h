@@ -14,8 +14,10 @@ public:
 
     void setDisplay(const QRectF &display) { set(m_display, display); }
 
+    void paint(QPainter *painter) override;
+
 protected:
-    [[nodiscard]] std::shared_future<QImage> paintAsync() override;
+    [[nodiscard]] QRectF leftOut() const override { return m_display; }
 
 private:
     QRectF m_display;

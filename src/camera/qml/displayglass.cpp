@@ -2,8 +2,7 @@
 
 #include "camera/camerabody.h"
 
-std::shared_future<QImage> DisplayGlass::paintAsync()
+void DisplayGlass::paint(QPainter *painter)
 {
-    return CameraBody::paintAsync(
-        CameraBody::Glass{ .size = size(), .colors = c(), .pixels = textureSize() });
+    CameraBody::paintGlass(*painter, size(), c());
 }

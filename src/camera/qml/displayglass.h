@@ -11,6 +11,5 @@ class DisplayGlass : public CameraSurface
 public:
     using CameraSurface::CameraSurface;
 
-protected:
-    [[nodiscard]] std::shared_future<QImage> paintAsync() override;
+    void paint(QPainter *painter) override;
 };

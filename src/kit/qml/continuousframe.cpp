@@ -7,6 +7,11 @@
 
 using namespace Painting;
 
+QRectF ContinuousFrame::leftOut() const
+{
+    return inset(boundingRect(), m_radius + m_rimWidth);
+}
+
 void ContinuousFrame::paint(QPainter *painter)
 {
     QPainterPath corners;

@@ -25,6 +25,9 @@ public:
 
     void paint(QPainter *painter) override;
 
+protected:
+    [[nodiscard]] QRectF leftOut() const override;
+
 private:
     qreal m_radius = 0;
     qreal m_rimWidth = 0;

@@ -1,17 +1,15 @@
 #include "ninepatchitem.h"
 
-#include <QMatrix4x4>
+#include "pixelnode.h"
+
 #include <QQuickWindow>
 #include <QSGNinePatchNode>
-#include <QSGTransformNode>
 
 #include <utility>
 
 namespace {
 
-// Counts in device pixels: a nine-patch in logical units would have its seams between pixels at
-// most zooms, and they would be seen.
-class Node : public QSGTransformNode
+class Node : public PixelNode
 {
 public:
     explicit Node(QQuickWindow *window)
@@ -26,16 +24,6 @@ public:
         m_patch->setBounds(bounds);
         m_patch->setPadding(patch.sideBorder, patch.endBorder, patch.sideBorder, patch.endBorder);
         m_patch->update();
-    }
-
-    // Where a device pixel is in the item's coordinates.
-    void setUnit(const QRectF &pixel)
-    {
-        QMatrix4x4 matrix;
-        matrix.translate(float(pixel.x()), float(pixel.y()));
-        matrix.scale(float(pixel.width()), float(pixel.height()));
-        if (matrix != this->matrix())
-            setMatrix(matrix);
     }
 
 private:

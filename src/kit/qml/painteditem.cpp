@@ -1,11 +1,56 @@
 #include "painteditem.h"
 
+#include "pixelnode.h"
+
 #include "kit/picture.h"
 
 #include <QQuickWindow>
+#include <QRegion>
 #include <QSGImageNode>
 
 #include <utility>
+
+// One child for each part of the picture.
+class PaintedItem::Node : public PixelNode
+{
+public:
+    void setParts(QSize whole, const std::vector<Part> &parts, QQuickWindow *window)
+    {
+        clear();
+        m_whole = whole;
+        for (const Part &part : parts) {
+            const QImage picture = part.picture.get();
+            QSGImageNode *node = window->createImageNode();
+            node->setTexture(window->createTextureFromImage(picture));
+            node->setOwnsTexture(true);
+            node->setSourceRect(picture.rect());
+            node->setRect(part.area);
+            appendChildNode(node);
+            m_shown.push_back(node);
+        }
+    }
+
+    // The whole picture covers `area` of the item.
+    void show(const QRectF &area, QSGTexture::Filtering filtering)
+    {
+        setUnit({ area.x(), area.y(), area.width() / m_whole.width(),
+            area.height() / m_whole.height() });
+        for (QSGImageNode *node : m_shown)
+            node->setFiltering(filtering);
+    }
+
+    [[nodiscard]] QSize whole() const { return m_whole; }
+
+private:
+    void clear()
+    {
+        for (const QSGImageNode *node : std::exchange(m_shown, {}))
+            delete node; // which leaves its parent
+    }
+
+    QSize m_whole; // pixels
+    std::vector<QSGImageNode *> m_shown;
+};
 
 QSize PaintedItem::textureSize() const
 {
@@ -37,39 +82,60 @@ std::shared_future<QImage> PaintedItem::paintAsync()
         textureSize(), size(), [this](QPainter &painter) { paint(&painter); });
 }
 
+QRect PaintedItem::pixelsLeftOut() const
+{
+    const QRectF part = leftOut();
+    const QSize pixels = textureSize();
+    const double x = pixels.width() / width();
+    const double y = pixels.height() / height();
+    const QPoint topLeft(qCeil(part.left() * x) + 1, qCeil(part.top() * y) + 1);
+    const QPoint end(qFloor(part.right() * x) - 1, qFloor(part.bottom() * y) - 1);
+    return { topLeft, end - QPoint(1, 1) };
+}
+
+std::vector<PaintedItem::Part> PaintedItem::paintPartsAsync()
+{
+    const QRect whole({}, textureSize());
+    if (leftOut().isEmpty())
+        return { { whole, paintAsync() } };
+    std::vector<Part> parts;
+    for (const QRect &area : QRegion(whole) - pixelsLeftOut()) {
+        parts.push_back(
+            { area, Painting::paintPartAsync(whole.size(), size(), area, [this](QPainter &painter) {
+                 paint(&painter);
+             }) });
+    }
+    return parts;
+}
+
 void PaintedItem::prepare()
 {
     if (!deviceSize().isEmpty())
-        m_picture = paintAsync();
+        m_parts = paintPartsAsync();
 }
 
 void PaintedItem::settle()
 {
-    if (m_picture.valid())
-        std::exchange(m_picture, {}).wait();
+    for (const Part &part : std::exchange(m_parts, {}))
+        part.picture.wait();
 }
 
 QSGNode *PaintedItem::updatePaintNode(QSGNode *old, UpdatePaintNodeData *)
 {
-    if (!isVisible() || deviceSize().isEmpty()) {
+    const QSize shown = deviceSize();
+    if (!isVisible() || shown.isEmpty()) {
         delete old;
         return nullptr;
     }
-    auto *node = static_cast<QSGImageNode *>(old);
+    auto *node = static_cast<Node *>(old);
     if (!node) {
-        node = window()->createImageNode();
-        node->setOwnsTexture(true);
-        if (!m_picture.valid())
-            m_picture = paintAsync();
+        node = new Node;
+        if (m_parts.empty())
+            m_parts = paintPartsAsync();
     }
-    if (m_picture.valid()) { // or else the item has only been moved
-        const QImage image = std::exchange(m_picture, {}).get();
-        node->setTexture(window()->createTextureFromImage(image));
-        node->setSourceRect(image.rect());
-    }
-    const QSize shown = deviceSize();
-    const bool pixelForPixel = isUpright() && node->texture()->textureSize() == shown;
-    node->setFiltering(pixelForPixel ? QSGTexture::Nearest : QSGTexture::Linear);
-    node->setRect(onDevice({ {}, shown }));
+    if (!m_parts.empty()) // or else the item has only been moved
+        node->setParts(textureSize(), std::exchange(m_parts, {}), window());
+    const bool pixelForPixel = isUpright() && node->whole() == shown;
+    node->show(onDevice({ {}, shown }), pixelForPixel ? QSGTexture::Nearest : QSGTexture::Linear);
     return node;
 }

@@ -4,9 +4,11 @@
 #include "prepareditem.h"
 
 #include <QImage>
+#include <QRectF>
 
 #include <future>
 #include <limits>
+#include <vector>
 
 /// An item that is painted in logical coordinates, whatever the size of its picture: that has as
 /// many pixels as the item covers on the screen. Without that a magnified interface would show the
@@ -39,11 +41,25 @@ protected:
     /// magnified. Unlimited by default.
     void limitTexture(int longestSide);
 
-    /// Starts to paint the item by paint(). Subclasses answer otherwise if they know the picture
-    /// already or make it as a whole.
+    /// The part where nothing is, or where something opaque covers it: its pixels are neither
+    /// painted nor kept, but for those at its edge, since what covers them may be shown up to a
+    /// pixel beside its place. None by default.
+    [[nodiscard]] virtual QRectF leftOut() const { return {}; }
+
+    /// Starts to paint an item that leaves nothing out, by paint(). Subclasses answer otherwise if
+    /// they know the picture already or make it as a whole.
     [[nodiscard]] virtual std::shared_future<QImage> paintAsync();
 
 private:
-    std::shared_future<QImage> m_picture; ///< Until updatePaintNode() takes it.
+    struct Part {
+        QRect area; ///< In the item's picture.
+        std::shared_future<QImage> picture;
+    };
+    class Node;
+
+    [[nodiscard]] QRect pixelsLeftOut() const;
+    [[nodiscard]] std::vector<Part> paintPartsAsync();
+
+    std::vector<Part> m_parts; ///< Until updatePaintNode() takes them.
     int m_longestSide = std::numeric_limits<int>::max();
 };
