@@ -13,7 +13,10 @@ namespace Simulator {
 class DiscKernel
 {
 public:
-    /// @pre 0 < radius ≤ 90 pixels.
+    static constexpr int kLargestReach = 90;                ///< pixels
+    static constexpr double kLargestRadius = kLargestReach; ///< pixels
+
+    /// @pre 0 < radius ≤ kLargestRadius, in pixels.
     explicit DiscKernel(double radius);
 
     /// The farthest column and row that the disc touches, in pixels from the center.
