@@ -32,13 +32,6 @@ private:
 
 } // namespace
 
-void NinePatchItem::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
-{
-    PreparedItem::geometryChange(newGeometry, oldGeometry);
-    if (newGeometry.size() != oldGeometry.size())
-        repaint();
-}
-
 bool NinePatchItem::isSeen() const
 {
     return isVisible() && !deviceSize().isEmpty();

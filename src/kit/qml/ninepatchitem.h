@@ -17,7 +17,6 @@ protected:
     void prepare() override;
     void settle() override;
     QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *data) override;
-    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
     /// Whether there is anything to show.
     [[nodiscard]] virtual bool isSeen() const;

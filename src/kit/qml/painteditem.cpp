@@ -67,13 +67,6 @@ void PaintedItem::limitTexture(int longestSide)
     repaint();
 }
 
-void PaintedItem::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
-{
-    PreparedItem::geometryChange(newGeometry, oldGeometry);
-    if (newGeometry.size() != oldGeometry.size())
-        repaint();
-}
-
 void PaintedItem::paint(QPainter *) { }
 
 std::shared_future<QImage> PaintedItem::paintAsync()

@@ -35,7 +35,6 @@ protected:
     void prepare() override;
     void settle() override;
     QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *data) override;
-    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
     /// Keeps either side of the texture within so many pixels; a larger item is painted coarser and
     /// magnified. Unlimited by default.

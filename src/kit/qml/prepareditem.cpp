@@ -143,6 +143,13 @@ void PreparedItem::repaint()
     m_waits = true;
 }
 
+void PreparedItem::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    QQuickItem::geometryChange(newGeometry, oldGeometry);
+    if (newGeometry.size() != oldGeometry.size())
+        repaint();
+}
+
 void PreparedItem::itemChange(ItemChange change, const ItemChangeData &data)
 {
     QQuickItem::itemChange(change, data);

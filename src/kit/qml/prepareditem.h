@@ -87,6 +87,7 @@ protected:
     /// Waits for what prepare() started, if updatePaintNode() hasn't.
     virtual void settle() = 0;
 
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void itemChange(ItemChange change, const ItemChangeData &data) override;
 
 private:
