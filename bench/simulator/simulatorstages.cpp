@@ -131,7 +131,7 @@ void measureRenders(int threads)
 void measureSteps(int threads)
 {
     const Parallel parallel(threads);
-    Workspace workspace({ kWidth, kHeight });
+    Workspace workspace;
     const QRect frame(0, 0, kWidth, kHeight);
     const Layer background(SceneArt::background(kWidth, kHeight), 3);
     const Layer subject(SceneArt::subject(kWidth, kHeight), 4);

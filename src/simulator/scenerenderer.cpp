@@ -2,7 +2,6 @@
 
 #include "simulator/internal/develop.h"
 #include "simulator/internal/discblur.h"
-#include "simulator/internal/disckernel.h"
 #include "simulator/internal/grain.h"
 #include "simulator/internal/layer.h"
 #include "simulator/internal/parallel.h"
@@ -26,8 +25,9 @@ namespace {
 constexpr double kLeastDisc = 0.6;   // diameter in pixels
 constexpr double kLeastStreak = 0.8; // length in pixels
 
-constexpr double kLongestStreak = 0.8; // of the frame's width
-constexpr double kLargestOffset = 8;   // stops
+constexpr double kLargestDiscRadius = 90; // pixels
+constexpr double kLongestStreak = 0.8;    // of the frame's width
+constexpr double kLargestOffset = 8;      // stops
 
 // Grain this strong leaves only black and white; more would leave the range of the arithmetic.
 constexpr double kLargestSigma = 1e6;
@@ -48,7 +48,7 @@ struct Blurs {
 private:
     static double radius(double diameter)
     {
-        return diameter > kLeastDisc ? std::min(diameter * 0.5, DiscKernel::kLargestRadius) : 0;
+        return diameter > kLeastDisc ? std::min(diameter * 0.5, kLargestDiscRadius) : 0;
     }
 
     static double halfStreak(double length) { return length > kLeastStreak ? length * 0.5 : 0; }
@@ -90,7 +90,7 @@ public:
     std::unique_ptr<Workspace> takeWorkspace()
     {
         const std::lock_guard lock(m_workspaceGuard);
-        return m_workspace ? std::move(m_workspace) : std::make_unique<Workspace>(size);
+        return m_workspace ? std::move(m_workspace) : std::make_unique<Workspace>();
     }
 
     void giveBack(std::unique_ptr<Workspace> workspace)

@@ -45,8 +45,7 @@ class Blurred
 {
 public:
     Blurred(const Layer &layer, double radius)
-        : m_workspace({ layer.width(), layer.height() })
-        , m_stride((layer.width() + 15) / 16 * 16)
+        : m_stride((layer.width() + 15) / 16 * 16)
         , m_planes{ m_workspace.floats(Workspace::Background,
                         static_cast<std::size_t>(m_stride * layer.height() * 3)),
             m_stride, std::ptrdiff_t{ m_stride } * layer.height(), 0, 0 }
@@ -162,29 +161,6 @@ INSTANTIATE_TEST_SUITE_P(Radii, DiscBlurRadius,
     testing::Values(0.3, 0.5, 0.8, 1.4, 1.6, 2.49, 2.51, 3.49, 3.51, 5.0, 10.0, 16.49, 16.51, 45.0,
         89.9, 90.0));
 
-TEST(Workspace, IsFromTheStartAsLargeAsAnyDiscNeedsIt)
-{
-    constexpr int kWidth = 150;
-    constexpr int kHeight = 90;
-    const QRect frame(0, 0, kWidth, kHeight);
-    Workspace workspace(frame.size());
-    const auto begins = [&workspace] {
-        return std::pair{ workspace.floats(Workspace::Spectrum, 1),
-            workspace.floats(Workspace::KernelSpectrum, 1) };
-    };
-    const auto before = begins();
-    for (const int channels : { 3, 4 }) {
-        const Layer layer(noiseImage(kWidth, kHeight), channels);
-        const Planes out{ workspace.floats(Workspace::Mover, 4 * 160 * kHeight), 160,
-            std::ptrdiff_t{ 160 } * kHeight, 0, 0 };
-        for (int radius = 17; radius <= DiscKernel::kLargestReach; ++radius) {
-            for (const QRect &area : { frame, QRect(64, 40, 16, 1), QRect(16, 0, 80, 90) })
-                DiscBlur(radius).apply(layer, area, out, workspace, Parallel(1));
-            ASSERT_EQ(begins(), before) << radius; // One that had grown would lie elsewhere.
-        }
-    }
-}
-
 TEST(Streak, CountsTheLinesEndsAsFarAsItCoversThem)
 {
     // One bright pixel in a row of sixteen.
@@ -260,7 +236,7 @@ TEST(FourierConvolution, ConvolvesPicturesOfAnySize)
             return dx <= reach && dy <= reach ? 1.0F / static_cast<float>(1 + dx + 2 * dy) : 0.0F;
         };
 
-        Workspace workspace({ width, height });
+        Workspace workspace;
         float *spectrum = workspace.floats(Workspace::Spectrum, convolution.spectrumSize());
         float *transformed = workspace.floats(Workspace::KernelSpectrum, convolution.kernelSize());
         std::generate_n(spectrum, convolution.spectrumSize(), [&] { return random(generator); });

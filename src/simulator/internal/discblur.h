@@ -23,7 +23,7 @@ class Workspace;
 class DiscBlur
 {
 public:
-    /// @pre 0 < radius ≤ DiscKernel::kLargestRadius, in pixels.
+    /// @pre 0 < radius ≤ 90 pixels.
     explicit DiscBlur(double radius);
 
     [[nodiscard]] int reach() const { return m_kernel.reach(); }

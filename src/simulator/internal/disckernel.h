@@ -13,10 +13,7 @@ namespace Simulator {
 class DiscKernel
 {
 public:
-    static constexpr int kLargestReach = 90;                ///< pixels
-    static constexpr double kLargestRadius = kLargestReach; ///< pixels
-
-    /// @pre 0 < radius ≤ kLargestRadius, in pixels.
+    /// @pre 0 < radius ≤ 90 pixels.
     explicit DiscKernel(double radius);
 
     /// The farthest column and row that the disc touches, in pixels from the center.

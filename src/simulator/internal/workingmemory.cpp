@@ -1,9 +1,5 @@
 #include "simulator/internal/workingmemory.h"
 
-#include "simulator/internal/disckernel.h"
-#include "simulator/internal/fourier.h"
-#include "simulator/internal/planes.h"
-
 #include <QtGlobal>
 
 #include <algorithm>
@@ -45,23 +41,9 @@ const float *Scratch::zeros(int count)
     return buffer.atLeast(static_cast<std::size_t>(count));
 }
 
-Workspace::Workspace(QSize frame)
-{
-    const int width = wholeVectors(frame.width());
-    const std::size_t plane
-        = static_cast<std::size_t>(width) * static_cast<std::size_t>(frame.height());
-    m_largest[Background] = 3 * plane;
-    m_largest[Mover] = 4 * plane;
-    m_largest[Streak] = 4 * plane;
-
-    const FourierConvolution torus(width, frame.height(), DiscKernel::kLargestReach);
-    m_largest[Spectrum] = torus.spectrumSize();
-    m_largest[KernelSpectrum] = torus.kernelSize();
-}
-
 float *Workspace::floats(Use use, std::size_t count)
 {
-    return m_buffers[use].atLeast(std::max(count, m_largest[use]));
+    return m_buffers[use].atLeast(count);
 }
 
 } // namespace Simulator

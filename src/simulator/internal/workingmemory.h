@@ -4,8 +4,6 @@
 
 #include <hwy/aligned_allocator.h>
 
-#include <QSize>
-
 #include <array>
 #include <cstddef>
 
@@ -41,16 +39,10 @@ enum DoubleUse { Heights, Running, LinePairs, LineSums, kDoubleUses };
 } // namespace Scratch
 
 /// The large buffers that making a picture needs. What they held is never read again.
-///
-/// From its first use on each is as large as any picture of the frame needs it: one that grew with
-/// the settings would leave a gap in the heap each time.
 class Workspace
 {
 public:
     enum Use { Background, Mover, Streak, Spectrum, KernelSpectrum, kUses };
-
-    /// For pictures of `frame`, which isn't empty.
-    explicit Workspace(QSize frame);
 
     /// At least `count` floats, aligned for vectors, of any content. Valid until the next call for
     /// the same use.
@@ -58,7 +50,6 @@ public:
 
 private:
     std::array<GrowingBuffer<float>, kUses> m_buffers;
-    std::array<std::size_t, kUses> m_largest; ///< Floats that a picture of the frame may need.
 };
 
 } // namespace Simulator
