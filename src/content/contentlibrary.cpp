@@ -32,7 +32,7 @@ ContentLibrary::ContentLibrary(const QString &folder)
     : m_course(Content::readCourse(folder))
 {
     m_background.setMaxThreadCount(1);
-    m_background.setExpiryTimeout(-1); // Each new one would begin in another part of the heap.
+    m_background.setExpiryTimeout(-1); // A new thread may begin in another part of the heap.
 }
 
 ContentLibrary::~ContentLibrary()
